@@ -1,0 +1,55 @@
+# The add-in: a module named Tintora.dll on every system, in a folder that can be loaded as it stands.
+add_library(tintora_objects OBJECT
+  dialog/command_dialog.cpp
+  dialog/item_lists.cpp
+  dialog/libraries.cpp
+  dialog/selection_filter.cpp
+  dialog/wait_cursor.cpp
+  inspection/appearance_source.cpp
+  inspection/applied_appearances.cpp
+  inspection/physical_material.cpp
+  inspection/selection_info.cpp
+  interaction/apply_state.cpp
+  interaction/assignment.cpp
+  interaction/input_changed.cpp
+  interaction/removal.cpp
+  shell/addin.cpp
+  shell/command_settings.cpp
+  shell/echo_guard.cpp
+  shell/event_handlers.cpp
+  shell/globals.cpp
+  shell/host_objects.cpp
+  shell/module_path.cpp
+  shell/text.cpp
+  shell/toolbar.cpp
+  shell/users_guide.cpp
+)
+target_include_directories(tintora_objects PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(tintora_objects PUBLIC host_api)
+set_target_properties(tintora_objects PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Unique symbols would keep the module in memory after it was unloaded.
+  target_compile_options(tintora_objects PRIVATE -fno-gnu-unique)
+endif()
+
+add_library(Tintora MODULE $<TARGET_OBJECTS:tintora_objects>)
+target_link_libraries(Tintora PRIVATE headless_host module_startup)
+if(NOT WIN32)
+  # Exactly the entry points leave the module, not the templates of the standard library that it uses.
+  target_link_options(Tintora PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  set_target_properties(Tintora PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+endif()
+set(TINTORA_ADDIN_FOLDER ${CMAKE_BINARY_DIR}/addin)
+set_target_properties(Tintora PROPERTIES
+  PREFIX ""
+  SUFFIX ".dll"
+  LIBRARY_OUTPUT_DIRECTORY ${TINTORA_ADDIN_FOLDER}
+)
+
+# The headless host's own libraries stand in for those that only the CAD program can make.
+add_custom_target(addin_libraries ALL
+  COMMAND ${CMAKE_COMMAND} -E copy_directory
+    ${PROJECT_SOURCE_DIR}/host/libraries/data ${TINTORA_ADDIN_FOLDER}/resources/Libs
+  COMMENT "Putting the headless libraries beside the module"
+)
+add_dependencies(addin_libraries Tintora)

@@ -1,0 +1,38 @@
+// Class Application.
+#pragma once
+
+#include <string>
+
+#include "../Base.h"
+
+namespace adsk {
+namespace core {
+
+class MaterialLibraries;
+class Product;
+class User;
+class UserInterface;
+
+/// The running CAD program; there is one. All members are documented unless marked.
+class Application : public Base {
+  ADSK_API_CLASS(Application, Base)
+
+  /// The running application; empty when there is none.
+  static Ptr<Application> get();
+  /// Everything on screen; empty when the host runs without an interface.
+  virtual Ptr<UserInterface> userInterface() const = 0;
+  /// What is being edited, a Design or something else; empty when no document is open.
+  virtual Ptr<Product> activeProduct() const = 0;
+  /// All material libraries available now.
+  virtual Ptr<MaterialLibraries> materialLibraries() const = 0;
+  /// The signed-in user; empty when nobody is signed in (the latter assumed).
+  virtual Ptr<User> currentUser() const = 0;
+  /// Account name and internal account name of the signed-in user; empty text when nobody is signed in (assumed).
+  virtual std::string userName() const = 0;
+  virtual std::string userId() const = 0;
+  /// Number of the last error (GenericErrors), 0 when the last call went well (when it is reset is assumed).
+  virtual int getLastError(std::string* description = nullptr) const = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

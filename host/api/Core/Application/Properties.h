@@ -1,0 +1,27 @@
+// Class Properties.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "../Base.h"
+
+namespace adsk {
+namespace core {
+
+class Property;
+
+/// The properties of a material. All members are documented.
+class Properties : public Base {
+  ADSK_API_CLASS(Properties, Base)
+
+  /// The property of that id, or of that shown name; empty when there is none.
+  virtual Ptr<Property> itemById(const std::string& id) const = 0;
+  virtual Ptr<Property> itemByName(const std::string& name) const = 0;
+  /// Empty for a bad index.
+  virtual Ptr<Property> item(int index) const = 0;
+  virtual size_t count() const = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

@@ -1,0 +1,21 @@
+// Class StringProperty.
+#pragma once
+
+#include <string>
+
+#include "../Base.h"
+#include "Property.h"
+
+namespace adsk {
+namespace core {
+
+/// A property that holds a text.
+class StringProperty : public Property {
+  ADSK_API_CLASS(StringProperty, Property)
+
+  /// The text.
+  virtual std::string value() const = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

@@ -1,0 +1,29 @@
+// Class Appearances.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "../Base.h"
+
+namespace adsk {
+namespace core {
+
+class Appearance;
+
+/// Appearances of a library or a design, in its order. All members are documented.
+class Appearances : public Base {
+  ADSK_API_CLASS(Appearances, Base)
+
+  using iterable_type = Appearance;
+  /// Empty for a bad index.
+  virtual Ptr<Appearance> item(int index) const = 0;
+  virtual size_t count() const = 0;
+  /// The first one of that name; empty when there is none. Names need not be unique.
+  virtual Ptr<Appearance> itemByName(const std::string& name) const = 0;
+  /// Empty when there is none.
+  virtual Ptr<Appearance> itemById(const std::string& id) const = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

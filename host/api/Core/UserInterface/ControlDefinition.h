@@ -1,0 +1,23 @@
+// Class ControlDefinition.
+#pragma once
+
+#include <string>
+
+#include "../Base.h"
+
+namespace adsk {
+namespace core {
+
+/// How a definition is shown in a toolbar. All members are documented.
+class ControlDefinition : public Base {
+  ADSK_API_CLASS(ControlDefinition, Base)
+
+  virtual std::string name() const = 0;
+  virtual bool isEnabled() const = 0;
+  virtual bool isEnabled(bool value) = 0;
+  virtual bool isVisible() const = 0;
+  virtual bool isVisible(bool value) = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

@@ -1,0 +1,30 @@
+// Class ListItem.
+#pragma once
+
+#include <string>
+
+#include "../Base.h"
+
+namespace adsk {
+namespace core {
+
+/// An item of a list. All members are documented.
+class ListItem : public Base {
+  ADSK_API_CLASS(ListItem, Base)
+
+  /// Always empty in a button row.
+  virtual std::string name() const = 0;
+  virtual bool name(const std::string& value) = 0;
+  /// In a single-choice list selecting one item unselects the current one.
+  virtual bool isSelected() const = 0;
+  virtual bool isSelected(bool value) = 0;
+  virtual int index() const = 0;
+  /// A folder.
+  virtual std::string icon() const = 0;
+  virtual bool icon(const std::string& value) = 0;
+  /// False for the active item of a drop-down.
+  virtual bool deleteMe() = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

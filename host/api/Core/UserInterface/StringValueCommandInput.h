@@ -1,0 +1,21 @@
+// Class StringValueCommandInput.
+#pragma once
+
+#include <string>
+
+#include "../Base.h"
+#include "CommandInput.h"
+
+namespace adsk {
+namespace core {
+
+/// A line of text that the user types. All members are documented.
+class StringValueCommandInput : public CommandInput {
+  ADSK_API_CLASS(StringValueCommandInput, CommandInput)
+
+  virtual std::string value() const = 0;
+  virtual bool value(const std::string& value) = 0;
+};
+
+}  // namespace core
+}  // namespace adsk

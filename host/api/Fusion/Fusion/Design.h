@@ -1,0 +1,20 @@
+// Class Design.
+#pragma once
+
+#include "../../Core/Application/Product.h"
+#include "../../Core/Base.h"
+
+namespace adsk {
+namespace fusion {
+
+class Component;
+
+/// A design: the root component and everything below it. All members are documented.
+class Design : public core::Product {
+  ADSK_API_CLASS(Design, core::Product)
+
+  virtual core::Ptr<Component> rootComponent() const = 0;
+};
+
+}  // namespace fusion
+}  // namespace adsk

@@ -1,0 +1,149 @@
+#include "host/runtime/call_gate.h"
+
+#include <sstream>
+#include <stdexcept>
+
+namespace headless {
+
+namespace {
+
+CallGate* activeGate = nullptr;
+
+std::string shortName(const char* className) {
+  const std::string name = className;
+  const std::size_t colon = name.rfind(':');
+  return colon == std::string::npos ? name : name.substr(colon + 1);
+}
+
+std::string nameOfCall(const char* className, const char* member) {
+  return shortName(className) + "." + member;
+}
+
+}  // namespace
+
+CallGate::CallGate() : previous(activeGate) {
+  activeGate = this;
+}
+
+CallGate::~CallGate() {
+  if (activeGate == this) {
+    activeGate = previous;
+  }
+}
+
+CallGate* CallGate::active() {
+  return activeGate;
+}
+
+std::map<std::string, std::size_t> CallGate::countsByName() const {
+  std::map<std::string, std::size_t> byName;
+  for (const auto& [key, count] : counts) {
+    byName[nameOfCall(key.first, key.second)] += count;
+  }
+  return byName;
+}
+
+void CallGate::resetCounts() {
+  counts.clear();
+  calls = 0;
+}
+
+void CallGate::startTrace() {
+  lines.clear();
+  tracing = true;
+}
+
+void CallGate::note(const std::string& text) {
+  if (tracing) {
+    lines.push_back({depth, "# " + text});
+  }
+}
+
+std::string CallGate::traceText() const {
+  std::string text;
+  for (const TraceLine& line : lines) {
+    text.append(2 * static_cast<std::size_t>(line.depth), ' ').append(line.text).append("\n");
+  }
+  return text;
+}
+
+void CallGate::setFault(const Fault& newFault) {
+  fault = newFault;
+  callsBeforeFault = 0;
+  struck = false;
+}
+
+bool CallGate::strikes(const char* className, const char* member) {
+  if (!fault || (!fault->call.empty() && fault->call != nameOfCall(className, member))) {
+    return false;
+  }
+  if (++callsBeforeFault < fault->nth) {
+    return false;
+  }
+  const FaultAnswer answer = fault->answer;
+  fault.reset();
+  struck = true;
+  if (answer == FaultAnswer::Exception) {
+    throw std::runtime_error(nameOfCall(className, member) + " was made to fail");
+  }
+  return true;
+}
+
+void CallGate::reportDeleted(const char* className, const Traceable* object, const char* member) {
+  const std::string name = nameOf(object, true);
+  misuseList.push_back({nameOfCall(className, member), "the add-in used " + name + " after it was deleted"});
+}
+
+std::string CallGate::callText(const char* className, const Traceable* object, const char* member,
+                               const std::vector<std::string>& arguments) {
+  std::string text = object != nullptr ? object->traceName() : shortName(className);
+  text.append(".").append(member).append("(");
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    text.append(i == 0 ? "" : ", ").append(arguments[i]);
+  }
+  return text.append(")");
+}
+
+std::string CallGate::textOf(double value) {
+  std::ostringstream text;
+  text << value;
+  return text.str();
+}
+
+std::string CallGate::textOf(const std::vector<std::string>& values) {
+  std::string text = "[";
+  for (const std::string& value : values) {
+    text.append(text.size() == 1 ? "" : ", ").append(textOf(value));
+  }
+  return text + "]";
+}
+
+std::string CallGate::nameOf(const Traceable* object, bool isThere) {
+  if (object != nullptr) {
+    return object->traceName();
+  }
+  return isThere ? "object" : "none";
+}
+
+CallGate::Passage::Passage(CallGate& owner, const char* className, const char* member, const std::string& call)
+    : gate(owner) {
+  ++gate.calls;
+  ++gate.counts[{className, member}];
+  if (gate.tracing) {
+    line = gate.lines.size();
+    gate.lines.push_back({gate.depth, call});
+  }
+  ++gate.depth;
+}
+
+CallGate::Passage::~Passage() {
+  --gate.depth;
+}
+
+void CallGate::Passage::answered(const std::string& result) {
+  if (line && *line < gate.lines.size()) {
+    gate.lines[*line].text += " -> " + result;
+  }
+}
+
+}  // namespace headless

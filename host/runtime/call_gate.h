@@ -1,0 +1,172 @@
+// The gate that every API call passes. It counts calls, records them as readable lines, and makes a chosen call fail.
+// Tests, benchmarks and the command line use it; nothing else in the host knows that they do.
+#pragma once
+
+#include <Core/CoreAll.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace headless {
+
+/// The host's side of an API object: how lines of a trace name it.
+class Traceable {
+ public:
+  /// Class and, in brackets, what tells this object from others of its class.
+  virtual std::string traceName() const = 0;
+
+ protected:
+  ~Traceable() = default;
+};
+
+/// What a call answers that was made to fail: nothing (an empty handle, false, 0 or "", by its type), or an exception.
+enum class FaultAnswer { Nothing, Exception };
+
+/// Makes the `nth` call from now on fail, counted from 1 over all calls or over those of one name.
+struct Fault {
+  std::size_t nth = 1;
+  FaultAnswer answer = FaultAnswer::Nothing;
+  /// Such as "ListItems.add" or, for a setter, "ListItem.isSelected="; empty for any.
+  std::string call = {};
+};
+
+/// A call that should not have been made, such as one on an object that was deleted.
+struct Misuse {
+  std::string call;
+  std::string reason;
+};
+
+/// One line of a recorded trace.
+struct TraceLine {
+  int depth = 0;
+  std::string text;
+};
+
+/// One gate for each host; the newest one that lives is the active one.
+class CallGate {
+ public:
+  CallGate();
+  ~CallGate();
+  CallGate(const CallGate&) = delete;
+  CallGate& operator=(const CallGate&) = delete;
+
+  /// The gate that calls pass now; nullptr when no host is there.
+  static CallGate* active();
+
+  /// Calls since the last reset, by name and in all.
+  std::map<std::string, std::size_t> countsByName() const;
+  std::size_t callCount() const { return calls; }
+  void resetCounts();
+
+  /// Starts and stops recording; starting forgets what was recorded before.
+  void startTrace();
+  void stopTrace() { tracing = false; }
+  bool isTracing() const { return tracing; }
+  /// Adds a line that is no call, such as the name of an event.
+  void note(const std::string& text);
+  /// What was recorded, one call a line, indented by depth.
+  std::string traceText() const;
+
+  /// Sets the fault, which replaces the one before; it strikes once.
+  void setFault(const Fault& newFault);
+  void clearFault() { fault.reset(); }
+  /// True once the fault that was set last has struck.
+  bool faultStruck() const { return struck; }
+
+  const std::vector<Misuse>& misuses() const { return misuseList; }
+
+  /// Passes one call: `body` does what the call means and is skipped when the call fails or the object is gone.
+  template <class Body, class... Arguments>
+  static std::invoke_result_t<Body> pass(const char* className, const Traceable* object, bool isAlive,
+                                         const char* member, Body&& body, const Arguments&... arguments) {
+    using Result = std::invoke_result_t<Body>;
+    CallGate* gate = active();
+    if (gate == nullptr) {
+      return isAlive ? body() : nothing<Result>();
+    }
+    std::string call;
+    if (gate->tracing) {
+      call = gate->callText(className, object, member, {textOf(arguments)...});
+    }
+    Passage passage(*gate, className, member, call);
+    if (gate->strikes(className, member)) {
+      passage.answered("nothing, as the call was made to fail");
+      return nothing<Result>();
+    }
+    if (!isAlive) {
+      gate->reportDeleted(className, object, member);
+      passage.answered("nothing, as the object was deleted");
+      return nothing<Result>();
+    }
+    Result result = body();
+    if (gate->tracing) {
+      passage.answered(textOf(result));
+    }
+    return result;
+  }
+
+ private:
+  // Keeps the place of a call in the trace while calls that it causes are recorded below it.
+  class Passage {
+   public:
+    Passage(CallGate& owner, const char* className, const char* member, const std::string& call);
+    ~Passage();
+    Passage(const Passage&) = delete;
+    Passage& operator=(const Passage&) = delete;
+    void answered(const std::string& result);
+
+   private:
+    CallGate& gate;
+    std::optional<std::size_t> line;
+  };
+
+  using CallKey = std::pair<const char*, const char*>;
+
+  template <class Result>
+  static Result nothing() {
+    if constexpr (std::is_same_v<Result, adsk::core::DialogResults>) {
+      return adsk::core::DialogError;
+    } else {
+      return Result();
+    }
+  }
+
+  static std::string textOf(bool value) { return value ? "true" : "false"; }
+  static std::string textOf(const std::string& value) { return '"' + value + '"'; }
+  static std::string textOf(double value);
+  static std::string textOf(const std::vector<std::string>& values);
+  static std::string textOf(const adsk::core::EventHandler*) { return "handler"; }
+  template <class T>
+  static std::enable_if_t<std::is_integral_v<T> || std::is_enum_v<T>, std::string> textOf(T value) {
+    return std::to_string(static_cast<long long>(value));
+  }
+  template <class T>
+  static std::string textOf(const adsk::core::Ptr<T>& handle) {
+    return nameOf(dynamic_cast<const Traceable*>(handle.get()), handle.get() != nullptr);
+  }
+  static std::string nameOf(const Traceable* object, bool isThere);
+
+  static std::string callText(const char* className, const Traceable* object, const char* member,
+                              const std::vector<std::string>& arguments);
+  bool strikes(const char* className, const char* member);
+  void reportDeleted(const char* className, const Traceable* object, const char* member);
+
+  CallGate* previous;
+  std::map<CallKey, std::size_t> counts;
+  std::size_t calls = 0;
+  bool tracing = false;
+  int depth = 0;
+  std::vector<TraceLine> lines;
+  std::optional<Fault> fault;
+  std::size_t callsBeforeFault = 0;
+  bool struck = false;
+  std::vector<Misuse> misuseList;
+};
+
+}  // namespace headless

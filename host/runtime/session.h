@@ -1,0 +1,115 @@
+// A person at the host: opens a design, starts the add-in, presses buttons, picks, chooses, types, answers, undoes, and
+// sees what is on screen. Everything that a person cannot do is refused with a UserError that says why.
+#pragma once
+
+#include <Core/CoreAll.h>
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "host/runtime/host.h"
+#include "host/runtime/module.h"
+#include "host/runtime/pickable.h"
+#include "host/runtime/profile.h"
+#include "host/ui/screen.h"
+
+namespace headless {
+
+/// The person tried something that is not possible, such as clicking a button that is greyed out.
+class UserError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// One sitting at one host. At its end the add-in is unloaded before the host goes.
+class Session {
+ public:
+  explicit Session(Profile profile = documentedProfile());
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+  ~Session();
+
+  Host& host() { return *host_; }
+
+  /// Loads the module file; raises std::runtime_error when that fails. The module must not be loaded yet.
+  void loadAddIn(const std::filesystem::path& moduleFile);
+  /// Calls `run`; what it answered, or false when it raised.
+  bool runAddIn();
+  /// Calls `stop`; what it answered, or false when it raised.
+  bool stopAddIn();
+  /// Unloads the module, as the host does after `stop`.
+  void unloadAddIn();
+
+  void openDesign(std::unique_ptr<model::Design> design);
+  void closeDocument();
+  /// The open design; raises UserError when there is none.
+  model::Design& design();
+
+  /// Presses the toolbar button of a command.
+  void press(const std::string& commandId);
+  /// Points at the entity: picks it, or lets go of it when it is picked already.
+  void pick(const Pickable& pickable);
+  /// The same by path; the kind is found by the path.
+  void pick(const std::string& path);
+  void pick(const adsk::core::Ptr<adsk::core::Base>& entity);
+  /// Lets go of everything that is picked.
+  void clearPicks();
+  /// Chooses an item of a drop-down by name, or of a button row by its label; the first of that name.
+  void choose(const std::string& inputId, const std::string& itemName);
+  void choose(const std::string& inputId, std::size_t index);
+  /// Replaces the text of an input, key by key.
+  void type(const std::string& inputId, const std::string& text);
+  /// Ticks or unticks a check box, or the box in the header of a group; nothing happens when it is so already.
+  void tick(const std::string& inputId, bool isTicked);
+  /// Opens or closes a group; nothing happens when it is so already.
+  void expand(const std::string& groupId, bool isExpanded);
+  /// Clicks a button of the dialog.
+  void click(const std::string& inputId);
+  void pressOk();
+  /// Presses Cancel, whatever its text is.
+  void pressCancel();
+  void pressEscape();
+  void undo();
+  void redo();
+
+  /// Answers the next question; see MessageBoxes.
+  void answerNext(adsk::core::DialogResults answer) { host_->ui().boxes().answerNext(answer); }
+  void answerAlways(adsk::core::DialogResults answer) { host_->ui().boxes().answerAlways(answer); }
+
+  /// The open dialog; raises UserError when there is none.
+  DialogView dialog() const;
+  bool isDialogOpen() const { return viewDialog(host_->ui()).has_value(); }
+  /// One input of the open dialog; raises UserError when there is none of that id.
+  InputView input(const std::string& inputId) const;
+  std::vector<ButtonView> toolbar() const { return viewToolbar(host_->ui()); }
+  const std::vector<MessageBox>& messageBoxes() const { return host_->ui().boxes().shown(); }
+  /// Paths of what is picked in the dialog, in order.
+  std::vector<std::string> picked() const;
+  /// What a person can point at; see pickable.h.
+  std::vector<Pickable> pickables(PickKind kind) { return pickablesOf(design(), kind); }
+
+  /// Exceptions that left the add-in, and what is wrong with the host itself.
+  const std::vector<BoundaryError>& errors() const { return host_->boundary().errors(); }
+  std::vector<BoundaryError> takeErrors() { return host_->boundary().takeErrors(); }
+
+ private:
+  CommandObject& activeCommand() const;
+  InputCore& inputOf(const std::string& inputId) const;
+  template <class Kind>
+  Kind& usableInput(const std::string& inputId, const char* whatFor) const;
+  void requireUsable(const InputCore& input, const char* whatFor) const;
+  void changed(InputCore& input);
+  void chooseIn(InputCore& input, ListItemsObject& list, ListItemObject& item);
+  void note(const std::string& action);
+  void checkHost();
+
+  std::unique_ptr<Host> host_;
+  std::unique_ptr<Module> module_;
+  std::filesystem::path moduleFile_;
+};
+
+}  // namespace headless

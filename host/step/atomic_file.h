@@ -1,0 +1,31 @@
+// Output files that are whole or not there at all.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace headless::step {
+
+/// A file under construction, in a temporary folder beside its destination so that it can be moved into place in one
+/// step. Until then an earlier file of that name stays as it is; without commit() nothing remains.
+class AtomicFile {
+ public:
+  /// Raises Error when the destination's folder does not exist or cannot be written, or when the destination is a folder.
+  explicit AtomicFile(std::filesystem::path destination);
+  ~AtomicFile();
+  AtomicFile(const AtomicFile&) = delete;
+  AtomicFile& operator=(const AtomicFile&) = delete;
+
+  /// Where to write; same file name as the destination.
+  const std::filesystem::path& path() const { return temporary; }
+
+  /// Moves the written file into place. Raises Error when that is not possible.
+  void commit();
+
+ private:
+  std::filesystem::path target;
+  std::filesystem::path folder;
+  std::filesystem::path temporary;
+};
+
+}  // namespace headless::step

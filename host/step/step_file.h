@@ -1,0 +1,36 @@
+// What can be said about a STEP file without understanding it.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <streambuf>
+#include <string>
+#include <vector>
+
+#include "host/step/progress.h"
+
+namespace headless::step {
+
+/// Raises Error for reading `file`: "Cannot read "file": why. help".
+[[noreturn]] void failReading(const std::filesystem::path& file, const std::string& why, const std::string& help);
+
+/// Raises Error when the file is missing, no file, unreadable, empty, no STEP file, or ends early.
+void checkStepFile(const std::filesystem::path& file);
+
+/// Reads a file for a stream and tells a phase how far that went.
+class ReportingBuffer : public std::streambuf {
+ public:
+  ReportingBuffer(const std::filesystem::path& file, Phase& shownPhase);
+
+ protected:
+  int_type underflow() override;
+
+ private:
+  std::ifstream input;
+  std::vector<char> block;
+  double size;
+  double consumed = 0;
+  Phase& phase;
+};
+
+}  // namespace headless::step

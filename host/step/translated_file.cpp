@@ -1,0 +1,97 @@
+#include "host/step/translated_file.h"
+
+#include <HeaderSection_FileSchema.hxx>
+#include <Interface_InterfaceModel.hxx>
+#include <STEPCAFControl_ExternFile.hxx>
+#include <StepData_StepModel.hxx>
+#include <TopLoc_Location.hxx>
+#include <TransferBRep.hxx>
+#include <Transfer_TransientProcess.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <istream>
+#include <string>
+
+#include "host/step/step_file.h"
+
+namespace headless::step {
+
+namespace {
+
+/// The schemas that the file says it follows, for error texts.
+std::string schemaOf(const Handle(Interface_InterfaceModel) & entities) {
+  const auto stepModel = Handle(StepData_StepModel)::DownCast(entities);
+  const auto schema = Handle(HeaderSection_FileSchema)::DownCast(
+      stepModel->HeaderEntity(STANDARD_TYPE(HeaderSection_FileSchema)));
+  std::string names;
+  for (int i = 1; !schema.IsNull() && i <= schema->NbSchemaIdentifiers(); ++i) {
+    names += (i > 1 ? ", " : "") + std::string(schema->SchemaIdentifiersValue(i)->ToCString());
+  }
+  return names.empty() ? "none" : names;
+}
+
+void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, const Progress& progress) {
+  Phase phase(progress, "reading");
+  ReportingBuffer buffer(path, phase);
+  std::istream input(&buffer);
+  // The instances' own colours and the materials are read elsewhere; the rest is of no use here.
+  reader.SetColorMode(false);
+  reader.SetLayerMode(false);
+  reader.SetPropsMode(false);
+  reader.SetSHUOMode(false);
+  reader.SetGDTMode(false);
+  reader.SetMatMode(false);
+  reader.SetViewMode(false);
+  if (reader.ChangeReader().ReadStream(path.u8string().c_str(), input) != IFSelect_RetDone) {
+    failReading(path, "its entities cannot be made out", "Export it again, it is damaged.");
+  }
+  phase.finish();
+}
+
+bool translate(STEPCAFControl_Reader& reader, Handle(TDocStd_Document) & document, const Progress& progress) {
+  Phase phase(progress, "translating");
+  const Handle(KernelProgress) shown = new KernelProgress(phase);
+  const bool done = reader.Transfer(document, shown->Start());
+  phase.finish();
+  return done;
+}
+
+}  // namespace
+
+TranslatedFile::TranslatedFile(const std::filesystem::path& path, const Progress& progress) {
+  load(reader, path, progress);
+  const bool done = translate(reader, document.handle, progress);
+  document.shapes()->GetFreeShapes(rootLabels);
+  allSessions.push_back(reader.Reader().WS());
+  if (!done || rootLabels.IsEmpty()) {
+    const std::string schema = schemaOf(allSessions.front()->Model());
+    failReading(path, "it holds no shapes (schema: " + schema + ")",
+                "Export the assembly with its solids, as STEP AP203, AP214 or AP242.");
+  }
+  using FilesIterator = NCollection_DataMap<TCollection_AsciiString, Handle(STEPCAFControl_ExternFile)>::Iterator;
+  for (FilesIterator file(reader.ExternFiles()); file.More(); file.Next()) {
+    if (file.Value()->GetLoadStatus() != IFSelect_RetDone) {
+      failReading(path, "it refers to the file \"" + std::string(file.Key().ToCString()) + "\", which cannot be read",
+                  "Put that file beside it.");
+    }
+    allSessions.push_back(file.Value()->GetWS());
+  }
+}
+
+TDF_Label TranslatedFile::labelOf(const TopoDS_Shape& shape) const {
+  if (shape.IsNull()) {
+    return {};
+  }
+  const TDF_Label* label = reader.GetShapeLabelMap().Seek(shape.Located(TopLoc_Location()));
+  return label != nullptr ? *label : TDF_Label();
+}
+
+TopoDS_Shape shapeOf(const Handle(XSControl_WorkSession) & session, const Handle(Standard_Transient) & entity) {
+  const Handle(Transfer_TransientProcess)& process = session->TransferReader()->TransientProcess();
+  const Handle(Transfer_Binder) binder = entity.IsNull() ? Handle(Transfer_Binder)() : process->Find(entity);
+  if (binder.IsNull() || !binder->HasResult()) {
+    return {};
+  }
+  return TransferBRep::ShapeResult(process, binder);
+}
+
+}  // namespace headless::step

@@ -1,0 +1,24 @@
+// Counts the guards that are alive: reactions may nest.
+#include "shell/echo_guard.h"
+
+namespace tintora {
+
+namespace {
+
+int guardCount = 0;
+
+}  // namespace
+
+EchoGuard::EchoGuard() {
+  ++guardCount;
+}
+
+EchoGuard::~EchoGuard() {
+  --guardCount;
+}
+
+bool EchoGuard::active() {
+  return guardCount > 0;
+}
+
+}  // namespace tintora

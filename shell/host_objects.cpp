@@ -1,0 +1,26 @@
+// The kind of an entity.
+#include "shell/host_objects.h"
+
+#include <string_view>
+
+namespace tintora {
+
+EntityKind entityKind(const Ptr<core::Base>& entity) {
+  // The host hands out plain C texts: compare the letters, not the addresses.
+  const std::string_view className = entity->objectType();
+  if (className == "adsk::fusion::Occurrence") {
+    return EntityKind::occurrence;
+  }
+  if (className == "adsk::fusion::Component") {
+    return EntityKind::component;
+  }
+  if (className == "adsk::fusion::BRepBody") {
+    return EntityKind::body;
+  }
+  if (className == "adsk::fusion::BRepFace") {
+    return EntityKind::face;
+  }
+  return EntityKind::other;
+}
+
+}  // namespace tintora

@@ -1,0 +1,80 @@
+#include "tests/support/addin_folder.h"
+
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <stdexcept>
+
+namespace tests {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path makeUniqueFolder() {
+  std::random_device seed;
+  for (int attempt = 0; attempt < 100; ++attempt) {
+    std::ostringstream name;
+    name << "tintora-test-" << std::hex << seed();
+    const fs::path folder = fs::temp_directory_path() / name.str();
+    if (fs::create_directory(folder)) {
+      return folder;
+    }
+  }
+  throw std::runtime_error("no folder can be made in " + fs::temp_directory_path().string());
+}
+
+}  // namespace
+
+AddInFolder::AddInFolder(const std::string& name)
+    : parent(makeUniqueFolder()), folder(parent / fs::u8path(name)), moduleFile(folder / "Tintora.dll") {
+  fs::create_directories(folder);
+  fs::copy_file(TINTORA_MODULE, moduleFile);
+}
+
+AddInFolder::~AddInFolder() {
+  std::error_code ignored;
+  fs::remove_all(parent, ignored);
+}
+
+void AddInFolder::renameModule(const std::string& fileName) {
+  const fs::path renamed = folder / fs::u8path(fileName);
+  fs::rename(moduleFile, renamed);
+  moduleFile = renamed;
+}
+
+void AddInFolder::write(const fs::path& file, const std::string& content) const {
+  const fs::path target = folder / file;
+  fs::create_directories(target.parent_path());
+  std::ofstream stream(target, std::ios::binary);
+  stream << content;
+  if (!stream) {
+    throw std::runtime_error("cannot write " + target.string());
+  }
+}
+
+std::string AddInFolder::read(const fs::path& file) const {
+  std::ifstream stream(folder / file, std::ios::binary);
+  if (!stream) {
+    throw std::runtime_error("cannot read " + (folder / file).string());
+  }
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+bool AddInFolder::has(const fs::path& file) const {
+  return fs::exists(folder / file);
+}
+
+void AddInFolder::remove(const fs::path& file) const {
+  fs::remove_all(folder / file);
+}
+
+void AddInFolder::makeFolder(const fs::path& relative) const {
+  fs::create_directories(folder / relative);
+}
+
+void AddInFolder::addColourIcon(const std::string& key) const {
+  write(appearancesFolder / "RAL_COLORS" / key / "16x16.png", "icon");
+}
+
+}  // namespace tests

@@ -1,0 +1,45 @@
+// An add-in folder of a test's own: the module, libraries beside it and whatever else the test puts there. It is gone
+// with the test.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tests {
+
+class AddInFolder {
+ public:
+  /// Makes an empty folder with the module in it. `name` is the folder's own name.
+  explicit AddInFolder(const std::string& name = "Tintora");
+  AddInFolder(const AddInFolder&) = delete;
+  AddInFolder& operator=(const AddInFolder&) = delete;
+  ~AddInFolder();
+
+  const std::filesystem::path& path() const { return folder; }
+  /// The module file, named Tintora.dll unless it was renamed.
+  const std::filesystem::path& module() const { return moduleFile; }
+  /// Gives the module file another name.
+  void renameModule(const std::string& fileName);
+
+  /// Writes a file, folders included; the path is relative to the add-in folder.
+  void write(const std::filesystem::path& file, const std::string& content) const;
+  /// The bytes of a file; the path is relative to the add-in folder.
+  std::string read(const std::filesystem::path& file) const;
+  bool has(const std::filesystem::path& file) const;
+  void remove(const std::filesystem::path& file) const;
+  /// Makes a folder.
+  void makeFolder(const std::filesystem::path& relative) const;
+  /// Makes the icon of a colour of the RAL library, such as "RAL3000".
+  void addColourIcon(const std::string& key) const;
+
+ private:
+  std::filesystem::path parent;
+  std::filesystem::path folder;
+  std::filesystem::path moduleFile;
+};
+
+/// Folders of the libraries in an add-in folder.
+inline const std::filesystem::path appearancesFolder = "resources/Libs/Appearances";
+inline const std::filesystem::path materialsFolder = "resources/Libs/Materials";
+
+}  // namespace tests
