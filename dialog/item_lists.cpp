@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "dialog/libraries.h"
 #include "shell/globals.h"

@@ -32,7 +32,7 @@ const Pickable* pickableIn(int filterMode) {
 }  // namespace
 
 void setupSelectionFilter() {
-  for (const auto& textBox : {actAppearanceInput, actMaterialInput}) {
+  for (const auto& textBox : infoTextInputs()) {
     if (textBox) {
       textBox->formattedText("");
     }

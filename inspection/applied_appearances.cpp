@@ -29,14 +29,14 @@ class Inventory {
     switch (entityKind(entity)) {
       case EntityKind::component:
         for (const auto& occurrence : items(hostCast<fusion::Component>(entity)->allOccurrences())) {
-          visitTree(occurrence);
+          recordOccurrenceOverrides(occurrence);
         }
         break;
       case EntityKind::occurrence:
         visitSelectedOccurrence(hostCast<fusion::Occurrence>(entity));
         break;
       case EntityKind::body:
-        visitBody(hostCast<fusion::BRepBody>(entity));
+        recordBodyOverride(hostCast<fusion::BRepBody>(entity));
         break;
       case EntityKind::face:
         visitFace(hostCast<fusion::BRepFace>(entity));
@@ -54,12 +54,12 @@ class Inventory {
     }
     recordOwnAppearance(occurrence);
     for (const auto& child : items(occurrence->childOccurrences())) {
-      visitTree(child);
+      recordOccurrenceOverrides(child);
     }
     visitBodies(occurrence);
   }
 
-  void visitTree(const Ptr<fusion::Occurrence>& top) {
+  void recordOccurrenceOverrides(const Ptr<fusion::Occurrence>& top) {
     const auto reach = [this](const Ptr<fusion::Occurrence>& occurrence) {
       return occurrences_.add(occurrence) ? Walk::on : Walk::past;
     };
@@ -72,16 +72,16 @@ class Inventory {
 
   void visitBodies(const Ptr<fusion::Occurrence>& occurrence) {
     for (const auto& body : items(occurrence->bRepBodies())) {
-      visitBody(body);
+      recordBodyOverride(body);
     }
   }
 
-  void visitBody(const Ptr<fusion::BRepBody>& body) {
+  void recordBodyOverride(const Ptr<fusion::BRepBody>& body) {
     if (!bodies_.add(body)) {
       return;
     }
     if (body->appearanceSourceType() == core::BodyAppearanceSource) {
-      appliedAppearances.bodies.emplace(body, body->appearance());
+      appliedAppearances.bodyOverrides.emplace(body, body->appearance());
     }
     for (const auto& face : items(body->faces())) {
       visitFace(face);
@@ -97,7 +97,7 @@ class Inventory {
   static void recordOwnAppearance(const Ptr<fusion::Occurrence>& occurrence) {
     const Ptr<core::Appearance> own = occurrence->appearance();
     if (own) {
-      appliedAppearances.occurrences.emplace(occurrence, own);
+      appliedAppearances.occurrenceOverrides.emplace(occurrence, own);
     }
   }
 
@@ -118,7 +118,7 @@ void collectAppliedAppearances(const std::vector<Ptr<core::Base>>& entities) {
 
 void recordFaceOverride(const Ptr<fusion::BRepFace>& face) {
   if (face->appearanceSourceType() == core::FaceAppearanceSource) {
-    appliedAppearances.faces.emplace(face, face->appearance());
+    appliedAppearances.faceOverrides.emplace(face, face->appearance());
   }
 }
 

@@ -54,8 +54,9 @@ void updateSelectionInfo() {
   collectAppliedAppearances(selectedEntities());
   removeAppearanceButton->isEnabled(!appliedAppearances.empty());
   if (selectionInput->selectionCount() == 0) {
-    actAppearanceInput->text("");
-    actMaterialInput->text("");
+    for (const auto& textBox : infoTextInputs()) {
+      textBox->text("");
+    }
     return;
   }
   if (!selectionInput->selection(0)->entity()) {

@@ -116,8 +116,14 @@ void assignAppearanceToOccurrence(const Ptr<fusion::Occurrence>& occurrence, con
   occurrence->appearance(appearance);
 }
 
+/// Some hosts give another object for the same component with every call; its name tells it then.
+bool isRootComponent(const Ptr<fusion::Component>& component) {
+  const Ptr<fusion::Component> root = activeDesign()->rootComponent();
+  return component == root || component->name() == root->name();
+}
+
 void explainRootComponent(const Ptr<fusion::Component>& component) {
-  if (component.get() == activeDesign()->rootComponent().get()) {
+  if (isRootComponent(component)) {
     uiHandle->messageBox(rootComponentNotice, caption, core::OKButtonType, core::InformationIconType);
   }
 }
@@ -179,9 +185,9 @@ void applyToSelection() {
     assignAppearance(entities);
   }
   if (groupMaterialInput->isExpanded() && !keepAppearanceInput->value()) {
-    putBack(recorded.occurrences);
-    putBack(recorded.bodies);
-    putBack(recorded.faces);
+    putBack(recorded.occurrenceOverrides);
+    putBack(recorded.bodyOverrides);
+    putBack(recorded.faceOverrides);
   }
 }
 

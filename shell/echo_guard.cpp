@@ -1,4 +1,4 @@
-// Counts the guards that are alive: reactions may nest.
+// Counts the guards that are alive.
 #include "shell/echo_guard.h"
 
 namespace tintora {

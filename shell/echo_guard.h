@@ -5,6 +5,7 @@
 
 namespace tintora {
 
+/// Lives as long as the add-in is changing inputs. Guards may nest.
 class EchoGuard {
  public:
   EchoGuard();

@@ -33,6 +33,10 @@ Ptr<core::BoolValueCommandInput> applyButton;
 
 AppliedAppearances appliedAppearances;
 
+std::array<Ptr<core::TextBoxCommandInput>, 2> infoTextInputs() {
+  return {actAppearanceInput, actMaterialInput};
+}
+
 int selectedFilterMode() {
   return filterSelectInput->selectedItem()->index();
 }

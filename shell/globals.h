@@ -3,6 +3,7 @@
 // means "none"; using one raises the null-access exception.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <map>
 
@@ -10,14 +11,13 @@
 
 namespace tintora {
 
-// --- Application: set by `run` ---------------------------------------------------------------------------------------
+// The application, set by `run`.
 
 extern Ptr<core::Application> appHandle;   ///< the application; kept over `stop` until the library is unloaded
 extern Ptr<core::UserInterface> uiHandle;  ///< its user interface; emptied by `stop`
 
-// --- Dialog: set each time the dialog is built, kept until it is built again
-// ------------------------------------------- In the dialog's order. After the command has ended they hold the inputs
-// of a closed dialog.
+// The dialog's inputs in its own order, set each time it is built and kept until it is built again: after the command
+// has ended they hold the inputs of a closed dialog.
 
 extern Ptr<core::CommandInputs> commandInputs;  ///< the command's input collection
 
@@ -44,13 +44,16 @@ extern Ptr<core::StringValueCommandInput> filterMaterialInput;  ///< "idFilterMa
 
 extern Ptr<core::BoolValueCommandInput> applyButton;  ///< button "idBtnApply"
 
+/// The two information texts: the appearance's first, the material's second. One that is not set stays in its place.
+std::array<Ptr<core::TextBoxCommandInput>, 2> infoTextInputs();
+
 /// Index of the selected item of "idFilterSelect".
 enum FilterMode : int { componentFilterMode = 0, bodyFilterMode = 1, faceFilterMode = 2 };
 
 /// The chosen `FilterMode`, or another index if the host should report one. Raises when no item is selected.
 int selectedFilterMode();
 
-// --- Selection: rebuilt whenever the selection changes ---------------------------------------------------------------
+// The record of applied appearances, rebuilt whenever the selection changes.
 
 /// Orders handles by the address of their object, which is the object's identity while a handle to it is held.
 struct ByAddress {
@@ -66,16 +69,14 @@ using AppearanceOverrides = std::map<Ptr<Entity>, Ptr<core::Appearance>, ByAddre
 
 /// The appearances applied to the selected entities and to everything below them.
 struct AppliedAppearances {
-  AppearanceOverrides<fusion::Occurrence> occurrences;
-  AppearanceOverrides<fusion::BRepBody> bodies;
-  AppearanceOverrides<fusion::BRepFace> faces;
+  AppearanceOverrides<fusion::Occurrence> occurrenceOverrides;
+  AppearanceOverrides<fusion::BRepBody> bodyOverrides;
+  AppearanceOverrides<fusion::BRepFace> faceOverrides;
 
-  bool empty() const { return occurrences.empty() && bodies.empty() && faces.empty(); }
+  bool empty() const { return occurrenceOverrides.empty() && bodyOverrides.empty() && faceOverrides.empty(); }
 };
 
 extern AppliedAppearances appliedAppearances;  ///< those of the current selection; emptied by `stop`
-
-// --- Active design ---------------------------------------------------------------------------------------------------
 
 /// The active product if it is a design, otherwise empty. Raises without an application.
 Ptr<fusion::Design> activeDesign();

@@ -1,0 +1,84 @@
+# Shared by the scripts beside this folder: messages, packages, building. To be sourced by bash from the project's root.
+
+if [ -t 1 ]; then
+  bold=$'\e[1m' red=$'\e[31m' green=$'\e[32m' plain=$'\e[0m'
+else
+  bold='' red='' green='' plain=''
+fi
+
+started=$SECONDS
+
+# A heading, with the time since the start.
+step() { printf '\n%s[%3d s] %s%s\n' "$bold" "$((SECONDS - started))" "$*" "$plain"; }
+say() { printf '%s\n' "$*"; }
+fail() {
+  printf '%s%s%s\n' "$red" "$*" "$plain" >&2
+  exit 1
+}
+
+# What building the add-in and the headless host takes.
+build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libocct-data-exchange-dev libtbb-dev gmsh-doc)
+# What testing takes besides.
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev binutils python3 git ca-certificates)
+# What the checks with the second compiler take besides.
+check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14)
+
+is_installed() { [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
+
+# Installs the packages that are missing, or says which to install where that is not allowed.
+ensure_packages() {
+  local missing=() package as_root=()
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  command -v apt-get >/dev/null || fail "These Debian packages are needed: ${missing[*]}"
+  if [ "$(id -u)" -ne 0 ]; then
+    sudo -n true 2>/dev/null || fail "These packages are missing; install them with: sudo apt-get install ${missing[*]}"
+    as_root=(sudo -n)
+  fi
+  step "Installing ${#missing[@]} packages: ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  local install=("${as_root[@]}" apt-get install -y -q --no-install-recommends "${missing[@]}")
+  if ! "${install[@]}" >"$log_folder/install.log" 2>&1; then
+    "${as_root[@]}" apt-get update -q >>"$log_folder/install.log" 2>&1 || true
+    "${install[@]}" >>"$log_folder/install.log" 2>&1 ||
+      { tail -n 20 "$log_folder/install.log" >&2; fail "The packages could not be installed; the log is $log_folder/install.log"; }
+  fi
+}
+
+# Compiler cache, where there is one.
+launcher_options() {
+  if command -v ccache >/dev/null; then
+    export CCACHE_NOHASHDIR=1
+    printf '%s\n' -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+  fi
+}
+
+# build_tree FOLDER TARGETS... -- CMAKE_OPTIONS...
+# Configures and builds; shows the progress, and the whole log of what failed.
+build_tree() {
+  local folder=$1 targets=()
+  shift
+  while [ "$1" != -- ]; do
+    targets+=("$1")
+    shift
+  done
+  shift
+  cmake -G Ninja -S . -B "$folder" $(launcher_options) "$@" >"$log_folder/configure.log" 2>&1 ||
+    { cat "$log_folder/configure.log" >&2; fail "Configuring $folder failed"; }
+  NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" "${targets[@]}" >"$log_folder/build.log" 2>&1 &
+  local builder=$!
+  if [ -t 1 ]; then
+    while kill -0 $builder 2>/dev/null; do
+      printf '\r%s ' "$(tail -n 1 "$log_folder/build.log" | grep -oE '^ *\[[0-9]+/[0-9]+\]')"
+      sleep 0.5
+    done
+    printf '\r            \r'
+  fi
+  wait $builder || { grep -vE '^ *\[[0-9]+/[0-9]+\] (Building|Linking)' "$log_folder/build.log" >&2; fail "Building $folder failed"; }
+}
+
+# Logs of the scripts; never committed.
+log_folder=build/log
+mkdir -p "$log_folder"
