@@ -72,6 +72,9 @@ std::string toAnsi(const std::wstring& text) {
 }
 
 std::vector<std::string> splitString(const std::string& text, const std::string& delimiter) {
+  if (delimiter.empty()) {
+    return {};
+  }
   std::vector<std::string> pieces;
   std::size_t start = 0;
   for (std::size_t end = text.find(delimiter); end != std::string::npos; end = text.find(delimiter, start)) {

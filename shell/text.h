@@ -22,7 +22,7 @@ std::wstring toWide(const std::string& ansiText);
 std::string toAnsi(const std::wstring& text);
 
 /// The pieces of `text` that end at a delimiter, empty ones included. What follows the last delimiter is dropped: a
-/// caller that needs it ends its text with the delimiter.
+/// caller that needs it ends its text with the delimiter. An empty delimiter gives no piece.
 std::vector<std::string> splitString(const std::string& text, const std::string& delimiter);
 
 /// The whole part of a number, rounded down, without thousands separators; empty text for a negative number.

@@ -23,6 +23,10 @@ BoundaryError describeCurrentException(const std::string& where) {
     return {where, "std::out_of_range", error.what()};
   } catch (const std::invalid_argument& error) {
     return {where, "std::invalid_argument", error.what()};
+  } catch (const std::length_error& error) {
+    return {where, "std::length_error", error.what()};
+  } catch (const std::logic_error& error) {
+    return {where, "std::logic_error", error.what()};
   } catch (const std::runtime_error& error) {
     return {where, "std::runtime_error", error.what()};
   } catch (const std::bad_alloc& error) {

@@ -137,10 +137,14 @@ CallGate::Passage::Passage(CallGate& owner, const char* className, const char* m
 }
 
 CallGate::Passage::~Passage() {
+  if (isRecorded() && !hasAnswer) {
+    answered("an exception");
+  }
   --gate.depth;
 }
 
 void CallGate::Passage::answered(const std::string& result) {
+  hasAnswer = true;
   if (line && *line < gate.lines.size()) {
     gate.lines[*line].text += " -> " + result;
   }

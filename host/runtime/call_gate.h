@@ -20,6 +20,8 @@ class Traceable {
  public:
   /// Class and, in brackets, what tells this object from others of its class.
   virtual std::string traceName() const = 0;
+  /// False once the object was deleted.
+  virtual bool isAlive() const = 0;
 
  protected:
   ~Traceable() = default;
@@ -105,7 +107,7 @@ class CallGate {
       return nothing<Result>();
     }
     Result result = body();
-    if (gate->tracing) {
+    if (passage.isRecorded()) {
       passage.answered(textOf(result));
     }
     return result;
@@ -119,11 +121,13 @@ class CallGate {
     ~Passage();
     Passage(const Passage&) = delete;
     Passage& operator=(const Passage&) = delete;
+    bool isRecorded() const { return line.has_value(); }
     void answered(const std::string& result);
 
    private:
     CallGate& gate;
     std::optional<std::size_t> line;
+    bool hasAnswer = false;
   };
 
   using CallKey = std::pair<const char*, const char*>;
@@ -132,6 +136,8 @@ class CallGate {
   static Result nothing() {
     if constexpr (std::is_same_v<Result, adsk::core::DialogResults>) {
       return adsk::core::DialogError;
+    } else if constexpr (std::is_same_v<Result, const char*>) {
+      return "";
     } else {
       return Result();
     }
@@ -139,6 +145,7 @@ class CallGate {
 
   static std::string textOf(bool value) { return value ? "true" : "false"; }
   static std::string textOf(const std::string& value) { return '"' + value + '"'; }
+  static std::string textOf(const char* value) { return textOf(std::string(value)); }
   static std::string textOf(double value);
   static std::string textOf(const std::vector<std::string>& values);
   static std::string textOf(const adsk::core::EventHandler*) { return "handler"; }

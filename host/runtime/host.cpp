@@ -80,13 +80,13 @@ Host::Host(Profile hostProfile)
   currentHost = this;
   WorkspaceObject& workspace = ui_->workspaceList().add("FusionSolidEnvironment", "DESIGN", profile_);
   workspace.addTab("SolidTab", "SOLID");
-  workspace.addTab("ToolsTab", "UTILITIES");
+  workspace.toolsTab();
   ui_->definitions().addNative("SelectCommand", "Select");
 }
 
 Host::~Host() {
-  closeDocument();
   ui_->close();
+  closeDocument();
   application_->markDeleted();
   currentHost = nullptr;
 }
@@ -100,21 +100,31 @@ Ptr<adsk::core::Application> Host::application() const {
 }
 
 void Host::open(std::unique_ptr<model::Design> design) {
-  closeDocument();
+  ui_->runner().withoutRestarts([&] { replaceDocument(std::move(design)); });
+}
+
+void Host::closeDocument() {
+  ui_->runner().withoutRestarts([this] { replaceDocument(nullptr); });
+}
+
+void Host::replaceDocument(std::unique_ptr<model::Design> design) {
+  ui_->runner().end(adsk::core::SessionEndingTerminationReason);
+  ui_->runner().useHistory(nullptr);
+  ui_->idleSelection().drop();
+  document_ = nullptr;
+  if (design == nullptr) {
+    return;
+  }
   // Expanding now shows a design that is too large here, and not inside a call of the add-in.
   design->root().occurrences();
   document_ = std::make_unique<Document>();
   document_->design = std::move(design);
   document_->entities = std::make_unique<EntityStore>(*document_->design, document_->history, *materials_, profile_);
-  document_->history.onChange = [this] { ui_->runner().modelEdited(); };
+  document_->history.onChange = [this] {
+    ui_->idleSelection().drop();
+    ui_->runner().modelEdited();
+  };
   ui_->runner().useHistory(&document_->history);
-}
-
-void Host::closeDocument() {
-  ui_->runner().end(adsk::core::SessionEndingTerminationReason);
-  ui_->runner().useHistory(nullptr);
-  ui_->idleSelection().drop();
-  document_ = nullptr;
 }
 
 std::vector<std::string> Host::inconsistencies() const {

@@ -75,6 +75,9 @@ class Host {
   std::vector<std::string> inconsistencies() const;
 
  private:
+  // Empty for none.
+  void replaceDocument(std::unique_ptr<model::Design> design);
+
   Profile profile_;
   CallGate gate_;
   Boundary boundary_;

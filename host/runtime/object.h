@@ -29,6 +29,10 @@ class HostObject : public Interface, public Traceable {
   }
   int refcount() const final { return references; }
 
+  const char* objectType() const override {
+    return CallGate::pass(Interface::classType(), this, true, "objectType", [] { return Interface::classType(); });
+  }
+
   bool isValid() const final {
     return CallGate::pass(Interface::classType(), this, true, "isValid", [this] { return alive; });
   }
@@ -42,7 +46,7 @@ class HostObject : public Interface, public Traceable {
 
   /// From now on every call answers with nothing.
   void markDeleted() { alive = false; }
-  bool isAlive() const { return alive; }
+  bool isAlive() const final { return alive; }
 
  protected:
   ~HostObject() override = default;
@@ -72,11 +76,21 @@ class ModelEntity {
   ~ModelEntity() = default;
 };
 
+/// False for an empty handle and for an object that was deleted. Unlike isValid(), this is no call of the API.
+inline bool isThere(const adsk::core::Ptr<adsk::core::Base>& handle) {
+  const auto* object = dynamic_cast<const Traceable*>(handle.get());
+  return object != nullptr && object->isAlive();
+}
+
+/// What the handle stands for; the handle's own object when that is no model entity.
+inline std::pair<const void*, const void*> identityOf(const adsk::core::Ptr<adsk::core::Base>& handle) {
+  const auto* entity = dynamic_cast<const ModelEntity*>(handle.get());
+  return entity != nullptr ? entity->identity() : std::pair<const void*, const void*>(handle.get(), nullptr);
+}
+
 /// True when both handles stand for the same entity in the same context.
 inline bool isSameEntity(const adsk::core::Ptr<adsk::core::Base>& a, const adsk::core::Ptr<adsk::core::Base>& b) {
-  const auto* entityA = dynamic_cast<const ModelEntity*>(a.get());
-  const auto* entityB = dynamic_cast<const ModelEntity*>(b.get());
-  return entityA != nullptr && entityB != nullptr ? entityA->identity() == entityB->identity() : a == b;
+  return identityOf(a) == identityOf(b);
 }
 
 /// A new object of the host and the first handle to it.

@@ -65,6 +65,9 @@ Ptr<Base> handleOf(const Pickable& pickable, EntityStore& entities) {
 }
 
 std::string pathOf(const Ptr<Base>& entity) {
+  if (!isThere(entity)) {
+    return {};
+  }
   if (const auto* occurrence = objectBehind<OccurrenceObject>(entity)) {
     return occurrence->data().fullPathName();
   }

@@ -31,7 +31,7 @@ std::vector<Pickable> pickablesOf(const model::Design& design, PickKind kind);
 /// The API's handle to it.
 adsk::core::Ptr<adsk::core::Base> handleOf(const Pickable& pickable, EntityStore& entities);
 
-/// The path of an entity that was picked; empty when it is no entity of the design, and the component's name for a
+/// The path of an entity that was picked; empty when it is no entity of an open design, and the component's name for a
 /// component.
 std::string pathOf(const adsk::core::Ptr<adsk::core::Base>& entity);
 

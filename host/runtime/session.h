@@ -37,9 +37,10 @@ class Session {
 
   /// Loads the module file; raises std::runtime_error when that fails. The module must not be loaded yet.
   void loadAddIn(const std::filesystem::path& moduleFile);
-  /// Calls `run`; what it answered, or false when it raised.
+  bool isAddInLoaded() const { return module_ != nullptr; }
+  /// Calls `run`; what it answered, or false when it raised. Raises UserError when no module is loaded.
   bool runAddIn();
-  /// Calls `stop`; what it answered, or false when it raised.
+  /// Calls `stop`; what it answered, or false when it raised. Raises UserError when no module is loaded.
   bool stopAddIn();
   /// Unloads the module, as the host does after `stop`.
   void unloadAddIn();
@@ -51,17 +52,21 @@ class Session {
 
   /// Presses the toolbar button of a command.
   void press(const std::string& commandId);
-  /// Points at the entity: picks it, or lets go of it when it is picked already.
+  /// Points at the entity: picks it, or lets go of it when it is picked already. Without a dialog, this is the idle
+  /// selection.
   void pick(const Pickable& pickable);
   /// The same by path; the kind is found by the path.
   void pick(const std::string& path);
   void pick(const adsk::core::Ptr<adsk::core::Base>& entity);
+  /// Drags a window around them: those that are not picked yet are picked, in that order, and reported once. Needs an
+  /// open dialog.
+  void pickAll(const std::vector<Pickable>& pickables);
   /// Lets go of everything that is picked.
   void clearPicks();
   /// Chooses an item of a drop-down by name, or of a button row by its label; the first of that name.
   void choose(const std::string& inputId, const std::string& itemName);
   void choose(const std::string& inputId, std::size_t index);
-  /// Replaces the text of an input, key by key.
+  /// Replaces the text of a line or of an editable text box, key by key; goes on with a text that begins so already.
   void type(const std::string& inputId, const std::string& text);
   /// Ticks or unticks a check box, or the box in the header of a group; nothing happens when it is so already.
   void tick(const std::string& inputId, bool isTicked);
@@ -82,7 +87,7 @@ class Session {
 
   /// The open dialog; raises UserError when there is none.
   DialogView dialog() const;
-  bool isDialogOpen() const { return viewDialog(host_->ui()).has_value(); }
+  bool isDialogOpen() const { return host_->ui().runner().isDialogOpen(); }
   /// One input of the open dialog; raises UserError when there is none of that id.
   InputView input(const std::string& inputId) const;
   std::vector<ButtonView> toolbar() const { return viewToolbar(host_->ui()); }
@@ -97,13 +102,22 @@ class Session {
   std::vector<BoundaryError> takeErrors() { return host_->boundary().takeErrors(); }
 
  private:
+  const Module& loadedModule() const;
   CommandObject& activeCommand() const;
   InputCore& inputOf(const std::string& inputId) const;
+  SelectionInput& selectionInput() const;
   template <class Kind>
   Kind& usableInput(const std::string& inputId, const char* whatFor) const;
   void requireUsable(const InputCore& input, const char* whatFor) const;
   void changed(InputCore& input);
-  void chooseIn(InputCore& input, ListItemsObject& list, ListItemObject& item);
+  void requireReachable(const InputCore& input, const std::string& action) const;
+  DefinitionObject& definitionOfButton(const std::string& commandId) const;
+  ListItemsObject& itemsToChoose(const std::string& inputId) const;
+  void chooseIn(InputCore& input, ListItemObject& item);
+  std::string editableText(const std::string& inputId) const;
+  void enter(const std::string& inputId, const std::string& text);
+  void tickGroup(GroupInput& group, bool isTicked);
+  void stepThrough(bool (model::History::*step)(), const char* whenThereIsNone);
   void note(const std::string& action);
   void checkHost();
 

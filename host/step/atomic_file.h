@@ -10,7 +10,8 @@ namespace headless::step {
 /// step. Until then an earlier file of that name stays as it is; without commit() nothing remains.
 class AtomicFile {
  public:
-  /// Raises Error when the destination's folder does not exist or cannot be written, or when the destination is a folder.
+  /// Raises Error when the destination's folder does not exist or cannot be written, or when the destination is a
+  /// folder.
   explicit AtomicFile(std::filesystem::path destination);
   ~AtomicFile();
   AtomicFile(const AtomicFile&) = delete;

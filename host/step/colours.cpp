@@ -9,7 +9,9 @@ namespace {
 
 constexpr double highest = 255.0;
 
-std::uint8_t channel(double value) { return static_cast<std::uint8_t>(std::lround(value * highest)); }
+std::uint8_t channel(double value) {
+  return static_cast<std::uint8_t>(std::lround(value * highest));
+}
 
 }  // namespace
 

@@ -1,9 +1,7 @@
 #include "host/step/design_builder.h"
 
 #include <BRep_Builder.hxx>
-#include <StepBasic_Product.hxx>
 #include <StepBasic_ProductDefinition.hxx>
-#include <StepBasic_ProductDefinitionFormation.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
@@ -12,6 +10,7 @@
 #include <TopoDS_Shell.hxx>
 #include <limits>
 
+#include "host/step/entities.h"
 #include "host/step/shape.h"
 #include "host/step/step_text.h"
 
@@ -19,7 +18,13 @@ namespace headless::step {
 
 namespace {
 
-using NamesByLabel = NCollection_DataMap<TDF_Label, std::string, TDF_LabelMapHasher>;
+/// What a product says about itself.
+struct ProductText {
+  std::string name;
+  bool isRoot = false;
+};
+
+using ProductTexts = NCollection_DataMap<TDF_Label, ProductText, TDF_LabelMapHasher>;
 
 std::size_t placeKey(const model::Component& parent, const model::Component& child, const TopLoc_Location& place) {
   const std::hash<const void*> address;
@@ -27,28 +32,23 @@ std::size_t placeKey(const model::Component& parent, const model::Component& chi
   return (address(&parent) * 31u + address(&child)) * 31u + placeHash;
 }
 
-std::string productName(const StepBasic_ProductDefinition& definition) {
-  const auto formation = definition.Formation();
-  const auto product = formation.IsNull() ? Handle(StepBasic_Product)() : formation->OfProduct();
-  if (product.IsNull()) {
-    return {};
-  }
-  const std::string name = textOf(product->Name());
-  return name.empty() ? textOf(product->Id()) : name;
+bool isMarkedAsRoot(const StepBasic_ProductDefinition& definition) {
+  const auto product = productOf(definition);
+  return !product.IsNull() && textOf(product->Description()) == rootDescription;
 }
 
-/// The names of all products. A label that is missing here belongs to geometry that is no product of its own.
-NamesByLabel productNames(const TranslatedFile& file) {
-  NamesByLabel names;
+/// The texts of all products. A label that is missing here belongs to geometry that is no product of its own.
+ProductTexts productTexts(const TranslatedFile& file) {
+  ProductTexts texts;
   for (const auto& session : file.sessions()) {
     forEachEntity<StepBasic_ProductDefinition>(session, [&](const Handle(StepBasic_ProductDefinition) & definition) {
       const TDF_Label label = file.labelOf(shapeOf(session, definition));
       if (!label.IsNull()) {
-        names.Bind(label, productName(*definition));
+        texts.Bind(label, {productName(*definition), isMarkedAsRoot(*definition)});
       }
     });
   }
-  return names;
+  return texts;
 }
 
 template <class Object>
@@ -80,10 +80,10 @@ TopoDS_Shape shellOf(const TopoDS_Shape& face) {
 
 class DesignBuilder {
  public:
-  explicit DesignBuilder(const TranslatedFile& translated) : names(productNames(translated)) {}
+  explicit DesignBuilder(const TranslatedFile& translated) : texts(productTexts(translated)) {}
 
   BuiltDesign build(const TDF_LabelSequence& roots, const std::string& rootName) {
-    if (roots.Length() == 1 && XCAFDoc_ShapeTool::IsAssembly(roots.First())) {
+    if (roots.Length() == 1 && isRoot(roots.First())) {
       const std::string name = nameOf(roots.First());
       built.design = std::make_unique<model::Design>(name.empty() ? rootName : name);
       built.components.Bind(roots.First(), &built.design->root());
@@ -98,9 +98,14 @@ class DesignBuilder {
   }
 
  private:
+  bool isRoot(const TDF_Label& product) const {
+    const ProductText* text = texts.Seek(product);
+    return XCAFDoc_ShapeTool::IsAssembly(product) || (text != nullptr && text->isRoot);
+  }
+
   std::string nameOf(const TDF_Label& product) const {
-    if (const std::string* name = names.Seek(product)) {
-      return *name;
+    if (const ProductText* text = texts.Seek(product)) {
+      return text->name;
     }
     Handle(TDataStd_Name) name;
     return product.FindAttribute(TDataStd_Name::GetID(), name) ? textOf(name->Get()) : std::string();
@@ -127,7 +132,7 @@ class DesignBuilder {
   bool isOwnGeometry(const TDF_Label& child) const {
     TDF_Label product;
     return XCAFDoc_ShapeTool::GetReferredShape(child, product) && !XCAFDoc_ShapeTool::IsAssembly(product) &&
-           !names.IsBound(product);
+           !texts.IsBound(product);
   }
 
   void place(model::Component& parent, const TDF_Label& label) {
@@ -171,12 +176,13 @@ class DesignBuilder {
     TopTools_IndexedMapOfShape faceShapes;
     TopExp::MapShapes(shape, TopAbs_FACE, faceShapes);
     body.faces.reserve(static_cast<std::size_t>(faceShapes.Extent()));
-    for (const TopoDS_Shape& faceShape : faceShapes) {
+    for (int i = 1; i <= faceShapes.Extent(); ++i) {
+      const TopoDS_Shape& faceShape = faceShapes(i);
       built.faces[faceShape.TShape().get()].push_back(&body.addFace(makeShape(faceShape)));
     }
   }
 
-  const NamesByLabel names;
+  const ProductTexts texts;
   BuiltDesign built;
 };
 
@@ -201,9 +207,13 @@ std::vector<const model::Instance*> BuiltDesign::instancesAt(const model::Compon
   return found;
 }
 
-std::vector<model::Body*> BuiltDesign::bodiesOf(const TopoDS_Shape& shape) const { return find(bodies, shape); }
+std::vector<model::Body*> BuiltDesign::bodiesOf(const TopoDS_Shape& shape) const {
+  return find(bodies, shape);
+}
 
-std::vector<model::Face*> BuiltDesign::facesOf(const TopoDS_Shape& shape) const { return find(faces, shape); }
+std::vector<model::Face*> BuiltDesign::facesOf(const TopoDS_Shape& shape) const {
+  return find(faces, shape);
+}
 
 BuiltDesign buildDesign(const TranslatedFile& file, const std::string& rootName) {
   return DesignBuilder(file).build(file.roots(), rootName);

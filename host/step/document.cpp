@@ -16,10 +16,16 @@ Document::Document() {
   XCAFDoc_DocumentTool::SetLengthUnit(handle, millimetre);
 }
 
-Document::~Document() { XCAFApp_Application::GetApplication()->Close(handle); }
+Document::~Document() {
+  XCAFApp_Application::GetApplication()->Close(handle);
+}
 
-Handle(XCAFDoc_ShapeTool) Document::shapes() const { return XCAFDoc_DocumentTool::ShapeTool(handle->Main()); }
+Handle(XCAFDoc_ShapeTool) Document::shapes() const {
+  return XCAFDoc_DocumentTool::ShapeTool(handle->Main());
+}
 
-Handle(XCAFDoc_ColorTool) Document::colours() const { return XCAFDoc_DocumentTool::ColorTool(handle->Main()); }
+Handle(XCAFDoc_ColorTool) Document::colours() const {
+  return XCAFDoc_DocumentTool::ColorTool(handle->Main());
+}
 
 }  // namespace headless::step

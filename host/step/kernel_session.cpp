@@ -38,10 +38,14 @@ KernelSession::KernelSession() : failures(new FailureKeeper) {
   XCAFDoc_ShapeTool::SetAutoNaming(false);
 }
 
-KernelSession::~KernelSession() { Message::DefaultMessenger()->ChangePrinters() = previousPrinters; }
+KernelSession::~KernelSession() {
+  Message::DefaultMessenger()->ChangePrinters() = previousPrinters;
+}
 
 std::string KernelSession::firstFailure() const {
-  return static_cast<const FailureKeeper*>(failures.get())->first;
+  const std::string& text = static_cast<const FailureKeeper*>(failures.get())->first;
+  const std::size_t begin = text.find_first_not_of("* \n");
+  return begin == std::string::npos ? std::string() : text.substr(begin, text.find_last_not_of("* \n") + 1 - begin);
 }
 
 }  // namespace headless::step

@@ -8,6 +8,9 @@
 
 namespace headless::step {
 
+/// Levels of assemblies in assemblies that the kernel can deal with: it recurses through them on the stack.
+inline constexpr int deepestNesting = 2000;
+
 /// While one lives, nothing the kernel says reaches the console; what it reports as failed is kept instead. Units are
 /// millimetres, files are written as AP214, texts in files are taken for UTF-8. One at a time per process, as the
 /// kernel's settings are global.

@@ -18,7 +18,8 @@ class OccurrenceLooks {
   /// A later look for the same path replaces the earlier one.
   void add(Path path, std::shared_ptr<const model::Appearance> appearance);
 
-  /// Each occurrence gets the look with the longest path that leads to it. Expands the root's tree when there are looks.
+  /// Each occurrence gets the look with the longest path that leads to it. Expands the root's tree when there are
+  /// looks.
   void applyTo(const model::Design& design) const;
 
  private:

@@ -25,8 +25,12 @@ void Phase::reached(double fraction) {
   progress(name, clamped);
 }
 
-void Phase::finish() { reached(1.0); }
+void Phase::finish() {
+  reached(1.0);
+}
 
-void KernelProgress::Show(const Message_ProgressScope&, Standard_Boolean) { phase.reached(GetPosition()); }
+void KernelProgress::Show(const Message_ProgressScope&, Standard_Boolean) {
+  phase.reached(GetPosition());
+}
 
 }  // namespace headless::step

@@ -27,7 +27,7 @@ model::Placement placementOf(const TopLoc_Location& location) {
   auto value = placement.begin();
   for (int row = 1; row <= 3; ++row) {
     for (int column = 1; column <= 4; ++column) {
-      *value++ = transformation.Value(row, column);
+      *value++ = transformation.Value(row, column) + 0.0;  // no negative zero
     }
   }
   return placement;

@@ -1,13 +1,17 @@
 #include "host/step/step_text.h"
 
-#include <string_view>
-
 namespace headless::step {
 
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 constexpr char32_t lastOfBasicPlane = 0xFFFF;
+
+// What the bytes of a UTF-8 character begin with.
+constexpr unsigned char firstContinuation = 0x80;
+constexpr unsigned char firstLead = 0xC0;
+constexpr unsigned char firstLeadOfThree = 0xE0;
+constexpr unsigned char firstLeadOfFour = 0xF0;
 
 std::string hexDigits(char32_t value, int count) {
   constexpr std::string_view digits = "0123456789ABCDEF";
@@ -40,44 +44,30 @@ AsciiStepBuffer::int_type AsciiStepBuffer::overflow(int_type character) {
     return traits_type::not_eof(character);
   }
   const auto byte = static_cast<unsigned char>(traits_type::to_char_type(character));
-  if (byte >= 0x80 && byte < 0xC0) {
-    pending = (pending << 6u) | (byte & 0x3Fu);
-    if (--pendingBytes == 0) {
-      putEscaped(pending);
-    } else if (pendingBytes < 0) {
-      pendingBytes = 0;
-      putEscaped(replacement);
-    }
-  } else if (byte >= 0xC0) {
-    endCharacter();
-    pendingBytes = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : 1;
-    pending = byte & (0x3Fu >> static_cast<unsigned>(pendingBytes));
-  } else if (isInText && (byte == '\n' || byte == '\r') && (isEscapeOpen || pendingBytes > 0)) {
-    // A line break inside a text means nothing, and in an escape it may not stand.
+  if (byte >= firstLead) {
+    beginCharacter(byte);
+  } else if (byte >= firstContinuation) {
+    continueCharacter(byte);
   } else {
-    endCharacter();
-    closeEscape();
-    isInText = byte == '\'' ? !isInText : isInText;
-    put(static_cast<char>(byte));
+    putAscii(static_cast<char>(byte));
   }
   return failed ? traits_type::eof() : character;
 }
 
-void AsciiStepBuffer::put(char character) {
-  failed = failed || traits_type::eq_int_type(out.sputc(character), traits_type::eof());
+void AsciiStepBuffer::beginCharacter(unsigned char byte) {
+  endCharacter();
+  pendingBytes = byte >= firstLeadOfFour ? 3 : byte >= firstLeadOfThree ? 2 : 1;
+  pending = byte & (0x3Fu >> pendingBytes);
 }
 
-void AsciiStepBuffer::putEscaped(char32_t character) {
-  std::string escape;
-  if (character > lastOfBasicPlane) {
-    closeEscape();
-    escape = "\\X4\\" + hexDigits(character, 8) + "\\X0\\";
-  } else {
-    escape = (isEscapeOpen ? "" : "\\X2\\") + hexDigits(character, 4);
-    isEscapeOpen = true;
+void AsciiStepBuffer::continueCharacter(unsigned char byte) {
+  if (pendingBytes == 0) {
+    putEscaped(replacement);
+    return;
   }
-  for (const char c : escape) {
-    put(c);
+  pending = (pending << 6u) | (byte & 0x3Fu);
+  if (--pendingBytes == 0) {
+    putEscaped(pending);
   }
 }
 
@@ -88,14 +78,37 @@ void AsciiStepBuffer::endCharacter() {
   }
 }
 
-void AsciiStepBuffer::closeEscape() {
-  if (!isEscapeOpen) {
+void AsciiStepBuffer::putAscii(char character) {
+  const bool isLineBreak = character == '\n' || character == '\r';
+  if (isLineBreak && isInText && (isEscapeOpen || pendingBytes > 0)) {
+    return;  // means nothing inside a text, and may not stand in an escape
+  }
+  endCharacter();
+  closeEscape();
+  isInText = character == '\'' ? !isInText : isInText;
+  put({&character, 1});
+}
+
+void AsciiStepBuffer::putEscaped(char32_t character) {
+  if (character > lastOfBasicPlane) {
+    closeEscape();
+    put("\\X4\\" + hexDigits(character, 8) + "\\X0\\");
     return;
   }
-  isEscapeOpen = false;
-  for (const char c : std::string_view("\\X0\\")) {
-    put(c);
+  put((isEscapeOpen ? "" : "\\X2\\") + hexDigits(character, 4));
+  isEscapeOpen = true;
+}
+
+void AsciiStepBuffer::closeEscape() {
+  if (isEscapeOpen) {
+    isEscapeOpen = false;
+    put("\\X0\\");
   }
+}
+
+void AsciiStepBuffer::put(std::string_view text) {
+  const auto length = static_cast<std::streamsize>(text.size());
+  failed = failed || out.sputn(text.data(), length) != length;
 }
 
 }  // namespace headless::step

@@ -5,6 +5,7 @@
 #include <TCollection_HAsciiString.hxx>
 #include <streambuf>
 #include <string>
+#include <string_view>
 
 namespace headless::step {
 
@@ -25,17 +26,20 @@ class AsciiStepBuffer : public std::streambuf {
   int_type overflow(int_type character) override;
 
  private:
-  void put(char character);
-  void putEscaped(char32_t character);
+  void beginCharacter(unsigned char byte);
+  void continueCharacter(unsigned char byte);
   void endCharacter();
+  void putAscii(char character);
+  void putEscaped(char32_t character);
   void closeEscape();
+  void put(std::string_view text);
 
   std::streambuf& out;
   bool failed = false;
   bool isInText = false;
   bool isEscapeOpen = false;
   char32_t pending = 0;
-  int pendingBytes = 0;
+  unsigned pendingBytes = 0;
 };
 
 }  // namespace headless::step

@@ -1,7 +1,5 @@
 #include "host/step/style_reader.h"
 
-#include <Interface_EntityIterator.hxx>
-#include <Interface_Graph.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <STEPConstruct_Styles.hxx>
 #include <StepRepr_NextAssemblyUsageOccurrence.hxx>
@@ -22,6 +20,7 @@
 #include <utility>
 
 #include "host/step/colours.h"
+#include "host/step/entities.h"
 #include "host/step/occurrence_looks.h"
 
 namespace headless::step {
@@ -98,9 +97,8 @@ class SessionStyles {
 
   /// From large to small: what a body is given counts more than what a group of bodies is given.
   void paintShapes() {
-    std::stable_sort(colouredShapes.begin(), colouredShapes.end(), [](const auto& a, const auto& b) {
-      return a.first.ShapeType() < b.first.ShapeType();
-    });
+    std::stable_sort(colouredShapes.begin(), colouredShapes.end(),
+                     [](const auto& a, const auto& b) { return a.first.ShapeType() < b.first.ShapeType(); });
     for (const auto& [shape, appearance] : colouredShapes) {
       paint(shape, appearance);
     }
@@ -164,22 +162,11 @@ class SessionStyles {
     }
   }
 
-  template <class Entity, class Visit>
-  void forEachSharing(const Handle(Standard_Transient) & entity, const Visit& visit) const {
-    Interface_EntityIterator sharings = session->Graph().Sharings(entity);
-    for (sharings.Start(); sharings.More(); sharings.Next()) {
-      const Handle(Entity) sharing = Handle(Entity)::DownCast(sharings.Value());
-      if (!sharing.IsNull()) {
-        visit(sharing);
-      }
-    }
-  }
-
   /// The assembly usages whose shape is the representation.
   std::vector<Usage> usagesShownBy(const Handle(StepRepr_Representation) & representation) const {
     std::vector<Usage> usages;
     using Definition = StepShape_ShapeDefinitionRepresentation;
-    forEachSharing<Definition>(representation, [&](const Handle(Definition) & definition) {
+    forEachSharing<Definition>(session, representation, [&](const Handle(Definition) & definition) {
       const auto shape = definition->Definition().PropertyDefinition();
       const auto usage =
           shape.IsNull() ? Usage() : Usage::DownCast(shape->Definition().ProductDefinitionRelationship());
@@ -196,8 +183,7 @@ class SessionStyles {
     using NextUsage = StepRepr_NextAssemblyUsageOccurrence;
     forEachEntity<NextUsage>(session, [&](const Handle(NextUsage) & usage) {
       const TopoDS_Shape shape = shapeOf(session, usage);
-      const auto* parent =
-          built.componentOf(file.labelOf(shapeOf(session, usage->RelatingProductDefinition())));
+      const auto* parent = built.componentOf(file.labelOf(shapeOf(session, usage->RelatingProductDefinition())));
       const auto* child = built.componentOf(file.labelOf(shape));
       if (parent == nullptr || child == nullptr) {
         return;
@@ -212,9 +198,8 @@ class SessionStyles {
   }
 
   void collectHigherUsages() {
-    forEachEntity<HigherUsage>(session, [&](const Handle(HigherUsage) & usage) {
-      below.emplace(usage->UpperUsage().get(), usage);
-    });
+    forEachEntity<HigherUsage>(
+        session, [&](const Handle(HigherUsage) & usage) { below.emplace(usage->UpperUsage().get(), usage); });
     for (int i = 1; i <= styles.NbStyles(); ++i) {
       const Handle(StepRepr_Representation) context = contextOf(*styles.Style(i));
       for (const auto& usage : context.IsNull() ? std::vector<Usage>() : usagesShownBy(context)) {

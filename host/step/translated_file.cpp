@@ -1,17 +1,18 @@
 #include "host/step/translated_file.h"
 
 #include <HeaderSection_FileSchema.hxx>
+#include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
 #include <STEPCAFControl_ExternFile.hxx>
 #include <StepData_StepModel.hxx>
+#include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
-#include <TransferBRep.hxx>
-#include <Transfer_TransientProcess.hxx>
-#include <XSControl_TransferReader.hxx>
+#include <algorithm>
 #include <istream>
 #include <string>
 
 #include "host/step/step_file.h"
+#include "host/step/structure_check.h"
 
 namespace headless::step {
 
@@ -20,8 +21,8 @@ namespace {
 /// The schemas that the file says it follows, for error texts.
 std::string schemaOf(const Handle(Interface_InterfaceModel) & entities) {
   const auto stepModel = Handle(StepData_StepModel)::DownCast(entities);
-  const auto schema = Handle(HeaderSection_FileSchema)::DownCast(
-      stepModel->HeaderEntity(STANDARD_TYPE(HeaderSection_FileSchema)));
+  const auto schema =
+      Handle(HeaderSection_FileSchema)::DownCast(stepModel->HeaderEntity(STANDARD_TYPE(HeaderSection_FileSchema)));
   std::string names;
   for (int i = 1; !schema.IsNull() && i <= schema->NbSchemaIdentifiers(); ++i) {
     names += (i > 1 ? ", " : "") + std::string(schema->SchemaIdentifiersValue(i)->ToCString());
@@ -29,7 +30,15 @@ std::string schemaOf(const Handle(Interface_InterfaceModel) & entities) {
   return names.empty() ? "none" : names;
 }
 
-void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, const Progress& progress) {
+/// What is wrong with the file's syntax, in the kernel's words; empty when nothing is. The kernel itself would leave
+/// out what it cannot make out and go on.
+std::string defectOf(Interface_InterfaceModel& entities) {
+  const Handle(Interface_Check) check = entities.GlobalCheck();
+  return check->HasFailed() ? std::string(check->CFail(1)) : std::string();
+}
+
+void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, const KernelSession& kernel,
+          const Progress& progress) {
   Phase phase(progress, "reading");
   ReportingBuffer buffer(path, phase);
   std::istream input(&buffer);
@@ -41,9 +50,12 @@ void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, cons
   reader.SetGDTMode(false);
   reader.SetMatMode(false);
   reader.SetViewMode(false);
-  if (reader.ChangeReader().ReadStream(path.u8string().c_str(), input) != IFSelect_RetDone) {
-    failReading(path, "its entities cannot be made out", "Export it again, it is damaged.");
+  const bool isLoaded = reader.ChangeReader().ReadStream(path.u8string().c_str(), input) == IFSelect_RetDone;
+  const std::string defect = isLoaded ? defectOf(*reader.Reader().Model()) : kernel.firstFailure();
+  if (!isLoaded || !defect.empty()) {
+    failReading(path, "the file is damaged (" + defect + ")", "Copy or export it again.");
   }
+  checkStructure(path, reader.Reader().WS());
   phase.finish();
 }
 
@@ -55,18 +67,20 @@ bool translate(STEPCAFControl_Reader& reader, Handle(TDocStd_Document) & documen
   return done;
 }
 
+bool hasFaces(const TDF_LabelSequence& products) {
+  return std::any_of(products.begin(), products.end(), [](const TDF_Label& product) {
+    return TopExp_Explorer(XCAFDoc_ShapeTool::GetShape(product), TopAbs_FACE).More();
+  });
+}
+
 }  // namespace
 
-TranslatedFile::TranslatedFile(const std::filesystem::path& path, const Progress& progress) {
-  load(reader, path, progress);
+TranslatedFile::TranslatedFile(const std::filesystem::path& path, const KernelSession& kernel,
+                               const Progress& progress) {
+  load(reader, path, kernel, progress);
   const bool done = translate(reader, document.handle, progress);
   document.shapes()->GetFreeShapes(rootLabels);
   allSessions.push_back(reader.Reader().WS());
-  if (!done || rootLabels.IsEmpty()) {
-    const std::string schema = schemaOf(allSessions.front()->Model());
-    failReading(path, "it holds no shapes (schema: " + schema + ")",
-                "Export the assembly with its solids, as STEP AP203, AP214 or AP242.");
-  }
   using FilesIterator = NCollection_DataMap<TCollection_AsciiString, Handle(STEPCAFControl_ExternFile)>::Iterator;
   for (FilesIterator file(reader.ExternFiles()); file.More(); file.Next()) {
     if (file.Value()->GetLoadStatus() != IFSelect_RetDone) {
@@ -74,6 +88,11 @@ TranslatedFile::TranslatedFile(const std::filesystem::path& path, const Progress
                   "Put that file beside it.");
     }
     allSessions.push_back(file.Value()->GetWS());
+  }
+  if (!done || !hasFaces(rootLabels)) {
+    const std::string schema = schemaOf(allSessions.front()->Model());
+    failReading(path, "it holds no shapes (schema: " + schema + ")",
+                "Export the assembly with its solids, as STEP AP203, AP214 or AP242.");
   }
 }
 
@@ -83,15 +102,6 @@ TDF_Label TranslatedFile::labelOf(const TopoDS_Shape& shape) const {
   }
   const TDF_Label* label = reader.GetShapeLabelMap().Seek(shape.Located(TopLoc_Location()));
   return label != nullptr ? *label : TDF_Label();
-}
-
-TopoDS_Shape shapeOf(const Handle(XSControl_WorkSession) & session, const Handle(Standard_Transient) & entity) {
-  const Handle(Transfer_TransientProcess)& process = session->TransferReader()->TransientProcess();
-  const Handle(Transfer_Binder) binder = entity.IsNull() ? Handle(Transfer_Binder)() : process->Find(entity);
-  if (binder.IsNull() || !binder->HasResult()) {
-    return {};
-  }
-  return TransferBRep::ShapeResult(process, binder);
 }
 
 }  // namespace headless::step

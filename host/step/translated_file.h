@@ -7,10 +7,10 @@
 #include <TopoDS_Shape.hxx>
 #include <XSControl_WorkSession.hxx>
 #include <filesystem>
-#include <functional>
 #include <vector>
 
 #include "host/step/document.h"
+#include "host/step/kernel_session.h"
 #include "host/step/progress.h"
 
 namespace headless::step {
@@ -19,7 +19,7 @@ namespace headless::step {
 class TranslatedFile {
  public:
   /// Raises Error when there is nothing to be had from the file.
-  TranslatedFile(const std::filesystem::path& path, const Progress& progress);
+  TranslatedFile(const std::filesystem::path& path, const KernelSession& kernel, const Progress& progress);
 
   /// The products that no other product contains; at least one.
   const TDF_LabelSequence& roots() const { return rootLabels; }
@@ -35,21 +35,5 @@ class TranslatedFile {
   TDF_LabelSequence rootLabels;
   std::vector<Handle(XSControl_WorkSession)> allSessions;
 };
-
-/// What an entity of the session became; null when it became no shape.
-TopoDS_Shape shapeOf(const Handle(XSControl_WorkSession) & session, const Handle(Standard_Transient) & entity);
-
-/// Calls visit(entity) for every entity of that type in the session, in the file's order.
-template <class Entity>
-void forEachEntity(const Handle(XSControl_WorkSession) & session,
-                   const std::function<void(const Handle(Entity) &)>& visit) {
-  const Handle(Interface_InterfaceModel)& entities = session->Model();
-  for (int number = 1; number <= entities->NbEntities(); ++number) {
-    const Handle(Entity) entity = Handle(Entity)::DownCast(entities->Value(number));
-    if (!entity.IsNull()) {
-      visit(entity);
-    }
-  }
-}
 
 }  // namespace headless::step

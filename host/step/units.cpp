@@ -20,12 +20,15 @@ struct BaseUnit {
 };
 
 double prefixFactor(StepBasic_SiPrefix prefix) {
-  constexpr std::array<double, 16> factors{1e18, 1e15, 1e12, 1e9,  1e6,  1e3,  1e2,   1e1,
+  constexpr std::array<double, 16> factors{1e18, 1e15, 1e12, 1e9,  1e6,  1e3,   1e2,   1e1,
                                            1e-1, 1e-2, 1e-3, 1e-6, 1e-9, 1e-12, 1e-15, 1e-18};
   return factors.at(static_cast<std::size_t>(prefix));
 }
 
-std::optional<BaseUnit> baseUnit(const Handle(StepBasic_NamedUnit) & unit) {
+/// Units may be defined by other units; more than this many steps is no definition.
+constexpr int mostSteps = 8;
+
+std::optional<BaseUnit> baseUnit(const Handle(StepBasic_NamedUnit) & unit, int steps = 0) {
   if (const auto si = Handle(StepBasic_SiUnit)::DownCast(unit); !si.IsNull()) {
     const bool isMass = si->Name() == StepBasic_sunGram;
     if (!isMass && si->Name() != StepBasic_sunMetre) {
@@ -35,10 +38,10 @@ std::optional<BaseUnit> baseUnit(const Handle(StepBasic_NamedUnit) & unit) {
     return BaseUnit{isMass, (isMass ? gram : 1.0) * (si->HasPrefix() ? prefixFactor(si->Prefix()) : 1.0)};
   }
   const auto converted = Handle(StepBasic_ConversionBasedUnit)::DownCast(unit);
-  if (converted.IsNull() || converted->ConversionFactor().IsNull()) {
+  if (converted.IsNull() || converted->ConversionFactor().IsNull() || steps == mostSteps) {
     return std::nullopt;
   }
-  std::optional<BaseUnit> base = baseUnit(converted->ConversionFactor()->UnitComponent().NamedUnit());
+  std::optional<BaseUnit> base = baseUnit(converted->ConversionFactor()->UnitComponent().NamedUnit(), steps + 1);
   if (base) {
     base->factor *= converted->ConversionFactor()->ValueComponent();
   }
@@ -52,8 +55,8 @@ std::optional<double> densityFrom(const StepBasic_MeasureWithUnit& measure) {
   if (unit.IsNull()) {
     return std::nullopt;
   }
-  double massFactor = 1.0;
-  double lengthFactor = 1.0;
+  double factor = 1.0;
+  double miswrittenFactor = 1.0;
   double massExponent = 0.0;
   double lengthExponent = 0.0;
   for (int i = 1; i <= unit->NbElements(); ++i) {
@@ -62,16 +65,16 @@ std::optional<double> densityFrom(const StepBasic_MeasureWithUnit& measure) {
     if (!base) {
       return std::nullopt;
     }
-    (base->isMass ? massFactor : lengthFactor) *= base->factor;
+    factor *= std::pow(base->factor, element->Exponent());
+    miswrittenFactor *= std::pow(base->factor, base->isMass ? 1.0 : -3.0);
     (base->isMass ? massExponent : lengthExponent) += element->Exponent();
   }
-  const bool isDensity = massExponent == 1.0 && lengthExponent == -3.0;
-  // The kernel's own writer puts mass^3 length^2 where it means mass per length^3.
-  const bool isMiswritten = massExponent == 3.0 && lengthExponent == 2.0 && unit->NbElements() == 2;
-  if (!isDensity && !isMiswritten) {
-    return std::nullopt;
+  if (massExponent == 1.0 && lengthExponent == -3.0) {
+    return measure.ValueComponent() * factor;
   }
-  return measure.ValueComponent() * massFactor / std::pow(lengthFactor, 3.0);
+  // The kernel's own writer puts mass^3 length^2 where it means mass length^-3.
+  const bool isMiswritten = massExponent == 3.0 && lengthExponent == 2.0 && unit->NbElements() == 2;
+  return isMiswritten ? std::optional(measure.ValueComponent() * miswrittenFactor) : std::nullopt;
 }
 
 }  // namespace headless::step

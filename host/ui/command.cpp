@@ -1,10 +1,30 @@
 #include "host/ui/command.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace headless {
 
 using adsk::core::Ptr;
+
+namespace {
+
+// In the order of the dialog, those in groups included.
+std::vector<SelectionInput*> selectionInputs(const InputCollection& collection) {
+  std::vector<SelectionInput*> found;
+  for (InputCore* input : collection.all()) {
+    if (auto* selection = dynamic_cast<SelectionInput*>(input)) {
+      found.push_back(selection);
+    } else if (const auto* group = dynamic_cast<const GroupInput*>(input)) {
+      const auto inGroup = selectionInputs(group->childInputs());
+      found.insert(found.end(), inGroup.begin(), inGroup.end());
+    }
+  }
+  return found;
+}
+
+}  // namespace
 
 CommandObject::CommandObject(Ptr<DefinitionObject> madeFrom, const Profile& hostProfile, CommandListener& runner)
     : executeEvent(makeObject<CommandEventObject>("execute", this)),
@@ -116,25 +136,22 @@ bool CommandObject::isRepeatable(bool value) {
 }
 
 bool CommandObject::setDialogInitialSize(int width, int height) {
-  return call(
-      "setDialogInitialSize",
-      [&] {
-        options_.initialWidth = width;
-        options_.initialHeight = height;
-        return width > 0 && height > 0;
-      },
-      width, height);
+  return storeSize("setDialogInitialSize", options_.initialSize, {width, height});
 }
 
 bool CommandObject::setDialogMinimumSize(int width, int height) {
+  return storeSize("setDialogMinimumSize", options_.minimumSize, {width, height});
+}
+
+bool CommandObject::storeSize(const char* member, DialogSize& field, const DialogSize& value) {
   return call(
-      "setDialogMinimumSize",
+      member,
       [&] {
-        options_.minimumWidth = width;
-        options_.minimumHeight = height;
-        return width > 0 && height > 0;
+        const bool isSize = value.width > 0 && value.height > 0;
+        field = isSize ? value : field;
+        return isSize;
       },
-      width, height);
+      value.width, value.height);
 }
 
 void CommandObject::inputChangedByProgram(InputCore& input) {
@@ -151,22 +168,20 @@ InputCore* CommandObject::findInput(const std::string& id) const {
 }
 
 SelectionInput* CommandObject::selectionInput() const {
-  for (const auto& [id, input] : byId) {
-    if (auto* selection = dynamic_cast<SelectionInput*>(input)) {
-      return selection;
+  SelectionInput* first = nullptr;
+  for (SelectionInput* each : selectionInputs(*inputs_.get())) {
+    if (each->enabled) {
+      return each;
     }
+    first = first != nullptr ? first : each;
   }
-  return nullptr;
+  return first;
 }
 
 bool CommandObject::areInputsValid() const {
-  for (const auto& [id, input] : byId) {
-    const auto* selection = dynamic_cast<const SelectionInput*>(input);
-    if (selection != nullptr && selection->visible && selection->isBelowMinimum()) {
-      return false;
-    }
-  }
-  return true;
+  const auto inputs = selectionInputs(*inputs_.get());
+  return std::none_of(inputs.begin(), inputs.end(),
+                      [](const SelectionInput* each) { return each->visible && each->isBelowMinimum(); });
 }
 
 void CommandObject::markGone() {

@@ -28,6 +28,12 @@ class CommandListener {
   ~CommandListener() = default;
 };
 
+/// Pixels; 0 until it was set.
+struct DialogSize {
+  int width = 0;
+  int height = 0;
+};
+
 /// The options and sizes that a client may set.
 struct CommandOptions {
   bool isOKButtonVisible = true;
@@ -36,10 +42,8 @@ struct CommandOptions {
   bool isExecutedWhenPreEmpted = true;
   bool isAutoExecute = true;
   bool isRepeatable = true;
-  int initialWidth = 0;
-  int initialHeight = 0;
-  int minimumWidth = 0;
-  int minimumHeight = 0;
+  DialogSize initialSize;
+  DialogSize minimumSize;
 };
 
 /// One command. After its end it and its inputs answer with nothing.
@@ -84,7 +88,7 @@ class CommandObject final : public HostObject<adsk::core::Command>, public Input
   InputCollection& inputs() const { return *inputs_.get(); }
   /// The input of that id, in groups too; nullptr when there is none.
   InputCore* findInput(const std::string& id) const;
-  /// The selection input that the user fills; nullptr when there is none.
+  /// The selection input that the user fills: the one with the focus, or else the first; nullptr when there is none.
   SelectionInput* selectionInput() const;
   /// False while a visible selection input has fewer entities than it needs.
   bool areInputsValid() const;
@@ -104,6 +108,7 @@ class CommandObject final : public HostObject<adsk::core::Command>, public Input
  private:
   template <class Value>
   bool store(const char* member, Value& field, const Value& value);
+  bool storeSize(const char* member, DialogSize& field, const DialogSize& value);
 
   adsk::core::Ptr<DefinitionObject> definition_;
   const Profile& profile;
@@ -140,6 +145,7 @@ class CommandArguments final : public HostObject<adsk::core::CommandEventArgs> {
   adsk::core::CommandTerminationReason terminationReason() const override;
 
   bool hasFailed = false;
+  const std::string& failureMessage() const { return message; }
 
  private:
   adsk::core::Ptr<adsk::core::Event> event;

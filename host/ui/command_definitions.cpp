@@ -45,6 +45,11 @@ Ptr<adsk::core::ListItem> ListControlDefinitionObject::lastSelected() const {
   return call("lastSelected", [this] { return Ptr<adsk::core::ListItem>(list_->selected()); });
 }
 
+void ListControlDefinitionObject::markGone() {
+  list_->markAllDeleted();
+  markDeleted();
+}
+
 DefinitionObject::DefinitionObject(Texts definitionTexts, bool native, StartCommand startCommand,
                                    std::function<void()> forget)
     : texts_(std::move(definitionTexts)),
@@ -52,10 +57,19 @@ DefinitionObject::DefinitionObject(Texts definitionTexts, bool native, StartComm
       start(std::move(startCommand)),
       forget_(std::move(forget)),
       created(makeObject<CommandCreatedEventObject>("commandCreated", this)),
-      control(makeObject<ButtonControlDefinitionObject>(texts_.name)) {}
+      button(makeObject<ButtonControlDefinitionObject>(texts_.name)) {}
 
 DefinitionObject::~DefinitionObject() {
+  markGone();
+}
+
+void DefinitionObject::markGone() {
   created->markDeleted();
+  button->markDeleted();
+  if (list) {
+    list->markGone();
+  }
+  markDeleted();
 }
 
 std::string DefinitionObject::id() const {
@@ -101,7 +115,9 @@ Ptr<adsk::core::CommandCreatedEvent> DefinitionObject::commandCreated() const {
 }
 
 Ptr<adsk::core::ControlDefinition> DefinitionObject::controlDefinition() const {
-  return call("controlDefinition", [this] { return control; });
+  return call("controlDefinition", [this] {
+    return list ? Ptr<adsk::core::ControlDefinition>(list) : Ptr<adsk::core::ControlDefinition>(button);
+  });
 }
 
 bool DefinitionObject::execute(const Ptr<adsk::core::NamedValues>&) const {
@@ -113,8 +129,7 @@ bool DefinitionObject::deleteMe() {
     if (native_) {
       return false;
     }
-    created->markDeleted();
-    markDeleted();
+    markGone();
     forget_();
     return true;
   });
@@ -126,7 +141,7 @@ bool DefinitionObject::isNative() const {
 
 void DefinitionObject::showAsList(adsk::core::ListControlDisplayTypes display,
                                   const std::vector<std::string>& itemNames) {
-  control = makeObject<ListControlDefinitionObject>(texts_.name, display, itemNames);
+  list = makeObject<ListControlDefinitionObject>(texts_.name, display, itemNames);
 }
 
 Ptr<CommandDefinition> DefinitionsObject::item(size_t index) const {

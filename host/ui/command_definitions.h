@@ -27,6 +27,7 @@ class ControlDefinitionBase : public HostObject<Interface> {
   std::string name() const override {
     return this->call("name", [this] { return name_; });
   }
+  bool name(const std::string& value) override { return store("name=", name_, value); }
   bool isEnabled() const override {
     return this->call("isEnabled", [this] { return enabled; });
   }
@@ -36,11 +37,16 @@ class ControlDefinitionBase : public HostObject<Interface> {
   }
   bool isVisible(bool value) override { return store("isVisible=", visible, value); }
 
+  /// For the host's own use.
+  bool isShown() const { return visible; }
+  bool isUsable() const { return enabled; }
+
  private:
-  bool store(const char* member, bool& field, bool value) {
+  template <class Value>
+  bool store(const char* member, Value& field, const Value& value) {
     return this->call(
         member,
-        [&field, value] {
+        [&] {
           field = value;
           return true;
         },
@@ -52,7 +58,10 @@ class ControlDefinitionBase : public HostObject<Interface> {
   bool visible = true;
 };
 
-using ButtonControlDefinitionObject = ControlDefinitionBase<adsk::core::ButtonControlDefinition>;
+class ButtonControlDefinitionObject final : public ControlDefinitionBase<adsk::core::ButtonControlDefinition> {
+ public:
+  using ControlDefinitionBase::ControlDefinitionBase;
+};
 
 class ListControlDefinitionObject final : public ControlDefinitionBase<adsk::core::ListControlDefinition> {
  public:
@@ -61,6 +70,9 @@ class ListControlDefinitionObject final : public ControlDefinitionBase<adsk::cor
   adsk::core::Ptr<adsk::core::ListItems> listItems() const override;
   adsk::core::ListControlDisplayTypes listControlDisplayType() const override;
   adsk::core::Ptr<adsk::core::ListItem> lastSelected() const override;
+
+  /// The list and its items answer with nothing from now on.
+  void markGone();
 
  private:
   adsk::core::ListControlDisplayTypes display_;
@@ -96,6 +108,12 @@ class DefinitionObject final : public HostObject<adsk::core::CommandDefinition> 
   /// For the host's own use.
   const Texts& texts() const { return texts_; }
   CommandCreatedEventObject& createdEvent() const { return *created.get(); }
+  /// Buttons made from it are on screen, and may be pressed.
+  bool isShown() const { return list ? list->isShown() : button->isShown(); }
+  bool isUsable() const { return list ? list->isUsable() : button->isUsable(); }
+  /// The definition, its event and its control definition answer with nothing from now on.
+  void markGone();
+  /// Gives it a list as control definition, for good.
   void showAsList(adsk::core::ListControlDisplayTypes display, const std::vector<std::string>& itemNames);
 
  protected:
@@ -109,7 +127,9 @@ class DefinitionObject final : public HostObject<adsk::core::CommandDefinition> 
   StartCommand start;
   std::function<void()> forget_;
   adsk::core::Ptr<CommandCreatedEventObject> created;
-  adsk::core::Ptr<adsk::core::ControlDefinition> control;
+  adsk::core::Ptr<ButtonControlDefinitionObject> button;
+  // Empty for what is shown as a button.
+  adsk::core::Ptr<ListControlDefinitionObject> list;
 };
 
 /// All definitions, native and made by program. Ids are unique.

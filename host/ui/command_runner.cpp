@@ -9,18 +9,22 @@ using adsk::core::Ptr;
 
 namespace {
 
-// More events in a row than any dialog can mean: the add-in answers its own echo for ever.
+// More events in a row, or within one another, than any dialog can mean: the add-in answers its own echo for ever.
 constexpr int restLimit = 1000;
+constexpr int nestingLimit = 100;
 
-class DepthGuard {
+// Holds another value as long as it lives.
+template <class Value>
+class Temporarily {
  public:
-  explicit DepthGuard(int& guarded) : depth(guarded) { ++depth; }
-  ~DepthGuard() { --depth; }
-  DepthGuard(const DepthGuard&) = delete;
-  DepthGuard& operator=(const DepthGuard&) = delete;
+  Temporarily(Value& changed, Value value) : variable(changed), previous(std::exchange(changed, value)) {}
+  ~Temporarily() { variable = previous; }
+  Temporarily(const Temporarily&) = delete;
+  Temporarily& operator=(const Temporarily&) = delete;
 
  private:
-  int& depth;
+  Value& variable;
+  Value previous;
 };
 
 }  // namespace
@@ -30,25 +34,21 @@ bool CommandRunner::start(DefinitionObject& definition) {
   const Ptr<ApplicationArguments> starting = makeObject<ApplicationArguments>(
       Ptr<adsk::core::Event>(&events.starting, false), keptDefinition, adsk::core::UnknownTerminationReason);
   {
-    const DepthGuard guard(eventDepth);
+    const Temporarily guard(firing, Firing::CommandEvent);
     events.starting.fire(boundary, starting, definition.texts().id);
   }
   if (starting->stopped) {
+    workOffWaiting();
     return false;
   }
-  if (active_) {
-    if (active_->options().isExecutedWhenPreEmpted && active_->areInputsValid()) {
-      execute(*active_.get());
-    }
-    end(adsk::core::PreEmptedTerminationReason);
-  }
+  preEmpt();
   const Ptr<CommandObject> command = makeObject<CommandObject>(keptDefinition, profile, *this);
   active_ = command;
   if (history != nullptr) {
     history->begin();
   }
   {
-    const DepthGuard guard(eventDepth);
+    const Temporarily guard(firing, Firing::CommandEvent);
     auto& created = definition.createdEvent();
     created.fire(boundary, makeObject<CreatedArguments>(Ptr<adsk::core::Event>(&created, false), command),
                  definition.texts().id);
@@ -62,6 +62,18 @@ bool CommandRunner::start(DefinitionObject& definition) {
   return true;
 }
 
+// What its end makes a handler start has to wait for the command that it makes way for.
+void CommandRunner::preEmpt() {
+  if (!active_) {
+    return;
+  }
+  const Temporarily guard(areRestartsHeld, true);
+  if (active_->options().isExecutedWhenPreEmpted && active_->areInputsValid()) {
+    execute(*active_.get());
+  }
+  end(adsk::core::PreEmptedTerminationReason);
+}
+
 void CommandRunner::show(CommandObject& command) {
   if (command.inputs().all().empty() && command.options().isAutoExecute) {
     confirm();
@@ -70,7 +82,7 @@ void CommandRunner::show(CommandObject& command) {
   command.isShown = true;
   fireCommandEvent(*command.activateEvent.get(), command);
   SelectionInput* selection = command.selectionInput();
-  if (profile.preselectionUsed && selection != nullptr && fillPreselection) {
+  if (profile.preselectionUsed && isRunning(command) && selection != nullptr && fillPreselection) {
     fillPreselection(*selection);
     if (!selection->picked().empty()) {
       fireInputChanged(command, *selection);
@@ -79,17 +91,18 @@ void CommandRunner::show(CommandObject& command) {
 }
 
 bool CommandRunner::startByProgram(DefinitionObject& definition) {
-  const bool isInsideCommandEvent = eventDepth > 0 && !isFiringTerminated;
-  if (isInsideCommandEvent) {
+  if (firing == Firing::CommandEvent) {
     boundary.report("CommandDefinition.execute",
                     "the add-in started " + definition.texts().id + " inside a command's own event");
     return false;
   }
-  if (!isFiringTerminated || profile.executeFromTerminated == ExecuteFromTerminated::AtOnce) {
-    return start(definition);
-  }
-  if (profile.executeFromTerminated == ExecuteFromTerminated::Refused) {
+  const bool isFromTerminated = firing == Firing::TerminatedEvent;
+  if (isFromTerminated && profile.executeFromTerminated == ExecuteFromTerminated::Refused) {
     return false;
+  }
+  const bool mayStartNow = !isFromTerminated || profile.executeFromTerminated == ExecuteFromTerminated::AtOnce;
+  if (mayStartNow && !areRestartsHeld) {
+    return start(definition);
   }
   later([this, kept = Ptr<DefinitionObject>(&definition, false)] {
     if (kept->isAlive()) {
@@ -112,7 +125,8 @@ CommandRunner::Execution CommandRunner::execute(CommandObject& command) {
   const Ptr<CommandArguments> arguments = makeObject<CommandArguments>(
       Ptr<adsk::core::Event>(command.executeEvent), command.commandHandle(), adsk::core::UnknownTerminationReason);
   {
-    const DepthGuard guard(eventDepth);
+    const Temporarily guard(firing, Firing::CommandEvent);
+    const Temporarily executing(isExecuting, true);
     command.executeEvent->fire(boundary, arguments, command.definition().texts().id);
   }
   if (history != nullptr && history->isOpen()) {
@@ -123,11 +137,20 @@ CommandRunner::Execution CommandRunner::execute(CommandObject& command) {
     }
     history->begin();
   }
+  if (arguments->hasFailed && !arguments->failureMessage().empty() && showFailure) {
+    showFailure(arguments->failureMessage());
+  }
   return arguments->hasFailed ? Execution::Failed : Execution::Done;
 }
 
 bool CommandRunner::executeByProgram(CommandObject& command, bool terminate) {
-  if (!isRunning(command) || (profile.executeNeedsValidInputs && !command.areInputsValid())) {
+  if (isExecuting) {
+    boundary.report("Command.doExecute",
+                    "the add-in executed " + command.definition().texts().id + " inside an execution");
+    return false;
+  }
+  const bool isRefused = profile.executeNeedsValidInputs && !command.areInputsValid();
+  if (!isRunning(command) || !command.isShown || isRefused) {
     return false;
   }
   const Ptr<CommandObject> kept(&command, false);
@@ -159,17 +182,22 @@ void CommandRunner::end(CommandTerminationReason reason) {
   }
   fireCommandEvent(*command->destroyEvent.get(), *command.get(), reason);
   command->markGone();
+  fireTerminated(command->definition(), reason);
+  workOffWaiting();
+}
+
+void CommandRunner::withoutRestarts(const std::function<void()>& work) {
   {
-    const DepthGuard guard(eventDepth);
-    const bool wasFiring = std::exchange(isFiringTerminated, true);
-    const Ptr<DefinitionObject> definition(&command->definition(), false);
-    events.terminated.fire(
-        boundary,
-        makeObject<ApplicationArguments>(Ptr<adsk::core::Event>(&events.terminated, false), definition, reason),
-        definition->texts().id);
-    isFiringTerminated = wasFiring;
+    const Temporarily guard(areRestartsHeld, true);
+    work();
   }
   workOffWaiting();
+}
+
+void CommandRunner::close() {
+  const Temporarily guard(areRestartsHeld, true);
+  end(adsk::core::SessionEndingTerminationReason);
+  waiting.clear();
 }
 
 void CommandRunner::changedByUser(InputCore& input) {
@@ -179,26 +207,47 @@ void CommandRunner::changedByUser(InputCore& input) {
 }
 
 void CommandRunner::fireInputChanged(CommandObject& command, InputCore& input) {
+  if (!comesToRest(input)) {
+    return;
+  }
+  const Ptr<CommandObject> kept(&command, false);
   const Ptr<adsk::core::CommandInput> handle = input.handle();
   const Ptr<adsk::core::CommandInputs> inputs =
       profile.eventGivesGroupInputs ? input.homeCollection().handle() : command.inputs().handle();
-  const DepthGuard guard(eventDepth);
-  const DepthGuard inputGuard(inputChangedDepth);
-  if (inputChangedDepth > restLimit) {
-    boundary.report("inputChanged(" + input.inputId() + ")", "the events of the dialog do not come to rest");
-    return;
-  }
+  const Temporarily guard(firing, Firing::CommandEvent);
+  const Temporarily inputGuard(inputChangedDepth, inputChangedDepth + 1);
   command.inputChangedEvent->fire(
       boundary, makeObject<InputChangedArguments>(Ptr<adsk::core::Event>(command.inputChangedEvent), handle, inputs),
       input.inputId());
 }
 
+// False once an event has caused so many more that something is wrong; reported once.
+bool CommandRunner::comesToRest(const InputCore& input) {
+  nestedEvents = inputChangedDepth == 0 ? 1 : nestedEvents + 1;
+  if (inputChangedDepth < nestingLimit && nestedEvents <= restLimit) {
+    return true;
+  }
+  if (nestedEvents <= restLimit + 1) {
+    boundary.report("inputChanged(" + input.inputId() + ")", "the events of the dialog do not come to rest");
+  }
+  nestedEvents = restLimit + 1;
+  return false;
+}
+
 void CommandRunner::fireCommandEvent(CommandEventObject& event, CommandObject& command,
                                      CommandTerminationReason reason) {
-  const DepthGuard guard(eventDepth);
+  const Temporarily guard(firing, Firing::CommandEvent);
   event.fire(boundary,
              makeObject<CommandArguments>(Ptr<adsk::core::Event>(&event, false), command.commandHandle(), reason),
              command.definition().texts().id);
+}
+
+void CommandRunner::fireTerminated(DefinitionObject& definition, CommandTerminationReason reason) {
+  const Ptr<DefinitionObject> kept(&definition, false);
+  const Temporarily guard(firing, Firing::TerminatedEvent);
+  events.terminated.fire(
+      boundary, makeObject<ApplicationArguments>(Ptr<adsk::core::Event>(&events.terminated, false), kept, reason),
+      definition.texts().id);
 }
 
 void CommandRunner::changedByProgram(CommandObject& command, InputCore& input) {
@@ -258,12 +307,14 @@ void CommandRunner::clearSelection(CommandObject& command) {
 }
 
 void CommandRunner::workOffWaiting() {
-  if (eventDepth > 0) {
+  if (firing != Firing::Nothing || areRestartsHeld || isWorkingOff) {
     return;
   }
+  const Temporarily guard(isWorkingOff, true);
   for (int done = 0; !waiting.empty(); ++done) {
     if (done > restLimit) {
       waiting.clear();
+      isClearingPlanned = false;
       boundary.report("events", "the events of the dialog do not come to rest");
       return;
     }

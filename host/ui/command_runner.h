@@ -38,13 +38,18 @@ class CommandRunner final : public CommandListener {
   /// The same on behalf of the add-in, which may not do so inside a command's own events.
   bool startByProgram(DefinitionObject& definition);
 
-  /// The command whose dialog is open; empty when idle.
+  /// The command that runs; empty when idle.
   const adsk::core::Ptr<CommandObject>& active() const { return active_; }
+  bool isDialogOpen() const { return active_ && active_->isShown; }
 
   /// OK: executes and ends the active command.
   void confirm();
   /// Ends the active command without executing it.
   void end(adsk::core::CommandTerminationReason reason);
+  /// Does `work`, such as closing a document, as one: commands that handlers start meanwhile wait until it is done.
+  void withoutRestarts(const std::function<void()>& work);
+  /// Ends the active command, and starts none any more that was to be started later.
+  void close();
 
   /// Reports that the user changed an input, and does all that follows from it.
   void changedByUser(InputCore& input);
@@ -52,6 +57,8 @@ class CommandRunner final : public CommandListener {
   void modelEdited();
   /// Puts entities into the selection input of the active command, as the pre-selection.
   std::function<void(SelectionInput&)> fillPreselection = nullptr;
+  /// Shows the message of an execution that failed.
+  std::function<void(const std::string&)> showFailure = nullptr;
 
   void changedByProgram(CommandObject& command, InputCore& input) override;
   void selectionCleared(CommandObject& command, InputCore& input) override;
@@ -59,12 +66,17 @@ class CommandRunner final : public CommandListener {
 
  private:
   enum class Execution { Done, Failed };
+  // Whose handlers are being called, as that decides what they may do.
+  enum class Firing { Nothing, CommandEvent, TerminatedEvent };
 
+  void preEmpt();
   void show(CommandObject& command);
   Execution execute(CommandObject& command);
   void fireInputChanged(CommandObject& command, InputCore& input);
   void fireCommandEvent(CommandEventObject& event, CommandObject& command,
                         adsk::core::CommandTerminationReason reason = adsk::core::UnknownTerminationReason);
+  void fireTerminated(DefinitionObject& definition, adsk::core::CommandTerminationReason reason);
+  bool comesToRest(const InputCore& input);
   void later(std::function<void()> work) { waiting.push_back(std::move(work)); }
   void workOffWaiting();
   void clearSelection(CommandObject& command);
@@ -76,9 +88,13 @@ class CommandRunner final : public CommandListener {
   ApplicationEvents events;
   model::History* history = nullptr;
   adsk::core::Ptr<CommandObject> active_;
-  int eventDepth = 0;
+  Firing firing = Firing::Nothing;
   int inputChangedDepth = 0;
-  bool isFiringTerminated = false;
+  // Input-changed events since the outermost one began.
+  int nestedEvents = 0;
+  bool isExecuting = false;
+  bool areRestartsHeld = false;
+  bool isWorkingOff = false;
   bool isClearingPlanned = false;
   std::deque<std::function<void()>> waiting;
 };

@@ -1,35 +1,24 @@
 #include "host/ui/events.h"
 
-namespace headless {
-
 namespace {
 
-using Attachments = std::vector<AttachedEvent*>;
-
-Attachments& attachmentsOf(const adsk::core::EventHandler& handler) {
-  return *static_cast<Attachments*>(handler.attachments());
-}
+using Attachments = std::vector<headless::AttachedEvent*>;
 
 }  // namespace
-
-void tieHandler(const adsk::core::EventHandler& handler, AttachedEvent& event) {
-  attachmentsOf(handler).push_back(&event);
-}
-
-void untieHandler(const adsk::core::EventHandler& handler, const AttachedEvent& event) {
-  Attachments& attachments = attachmentsOf(handler);
-  attachments.erase(std::remove(attachments.begin(), attachments.end(), &event), attachments.end());
-}
-
-}  // namespace headless
 
 namespace adsk {
 namespace core {
 
-EventHandler::EventHandler() : hostData(new headless::Attachments) {}
+/// What stands behind the hidden pointer of a handler.
+class HandlerAttachments {
+ public:
+  static Attachments& of(const EventHandler& handler) { return *static_cast<Attachments*>(handler.hostData); }
+};
+
+EventHandler::EventHandler() : hostData(new Attachments) {}
 
 EventHandler::~EventHandler() {
-  headless::Attachments& attachments = headless::attachmentsOf(*this);
+  Attachments& attachments = HandlerAttachments::of(*this);
   for (headless::AttachedEvent* event : attachments) {
     event->forget(this);
   }
@@ -38,3 +27,18 @@ EventHandler::~EventHandler() {
 
 }  // namespace core
 }  // namespace adsk
+
+namespace headless {
+
+using adsk::core::HandlerAttachments;
+
+void tieHandler(const adsk::core::EventHandler& handler, AttachedEvent& event) {
+  HandlerAttachments::of(handler).push_back(&event);
+}
+
+void untieHandler(const adsk::core::EventHandler& handler, const AttachedEvent& event) {
+  Attachments& attachments = HandlerAttachments::of(handler);
+  attachments.erase(std::remove(attachments.begin(), attachments.end(), &event), attachments.end());
+}
+
+}  // namespace headless

@@ -86,6 +86,7 @@ DropDownInput::DropDownInput(InputOwner& inputOwner, InputCollection& collection
   ListRules rules;
   rules.isSingleChoice = dropDownStyle != adsk::core::CheckBoxDropDownStyle;
   rules.hasIcons = dropDownStyle == adsk::core::LabeledIconDropDownStyle;
+  rules.keepsActiveItem = rules.isSingleChoice;
   list_ = makeObject<ListItemsObject>(this->inputId(), rules, [this] { owner.inputChangedByProgram(*this); });
 }
 
@@ -130,8 +131,17 @@ bool TextBoxInput::text(const std::string& value) {
 }
 
 bool TextBoxInput::setContent(const char* member, const std::string& value, bool asMarkup) {
-  isMarkup = isAlive() ? asMarkup : isMarkup;
-  return store(member, content, value);
+  return call(
+      member,
+      [&] {
+        if (content != value || isMarkup != asMarkup) {
+          content = value;
+          isMarkup = asMarkup;
+          owner.inputChangedByProgram(*this);
+        }
+        return true;
+      },
+      value);
 }
 
 std::string TextBoxInput::shownText() const {
@@ -151,8 +161,8 @@ bool TextBoxInput::numRows(int value) {
   return call(
       "numRows=",
       [&] {
-        rows_ = value;
-        return true;
+        rows_ = value > 0 ? value : rows_;
+        return value > 0;
       },
       value);
 }

@@ -5,6 +5,7 @@
 #include <Core/CoreAll.h>
 
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -229,7 +230,7 @@ class SelectionInput final : public Input<adsk::core::SelectionCommandInput> {
                  std::string prompt);
 
   // For a selection input, being enabled means having the focus.
-  bool isEnabled() const override;
+  using Input::isEnabled;
   bool isEnabled(bool value) override;
   bool setSelectionLimits(size_t minimum, size_t maximum) override;
   bool getSelectionLimits(size_t& minimum, size_t& maximum) override;
@@ -250,6 +251,7 @@ class SelectionInput final : public Input<adsk::core::SelectionCommandInput> {
 
   /// For the host's own use. An empty answer of whyRefused means that the entity may be picked.
   std::string whyRefused(const adsk::core::Ptr<adsk::core::Base>& entity) const;
+  bool isPicked(const adsk::core::Ptr<adsk::core::Base>& entity) const;
   void pick(const adsk::core::Ptr<adsk::core::Base>& entity);
   /// False when the entity is not selected.
   bool unpick(const adsk::core::Ptr<adsk::core::Base>& entity);
@@ -264,11 +266,15 @@ class SelectionInput final : public Input<adsk::core::SelectionCommandInput> {
   void visibilityChanged() override;
 
  private:
+  bool setFocus(const char* member, bool value);
+
   std::string prompt_;
   std::size_t minimum_ = 1;
   std::size_t maximum_ = 1;
   std::vector<std::string> filters_;
   std::vector<adsk::core::Ptr<SelectionObject>> selections;
+  /// Identities of what is selected, to know quickly what is.
+  std::set<std::pair<const void*, const void*>> identities;
 };
 
 class ButtonRowInput final : public Input<adsk::core::ButtonRowCommandInput> {

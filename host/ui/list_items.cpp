@@ -78,7 +78,8 @@ void ListItemsObject::setSelected(ListItemObject& item, bool isSelected) {
   if (isSelected) {
     selectedItem = &item;
   } else if (selectedItem == &item) {
-    selectedItem = nullptr;
+    const auto other = std::find_if(items.begin(), items.end(), [](const auto& each) { return each->selected; });
+    selectedItem = other == items.end() ? nullptr : other->get();
   }
 }
 

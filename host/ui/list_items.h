@@ -41,7 +41,7 @@ class ListItemsObject final : public HostObject<adsk::core::ListItems> {
   const std::vector<adsk::core::Ptr<ListItemObject>>& all() const { return items; }
   /// Adds an unselected item at the end.
   void append(const std::string& name) { insert(name, false, "", -1); }
-  /// The selected item of a single-choice list; empty when there is none.
+  /// The item that was selected last and still is; empty when none is.
   adsk::core::Ptr<ListItemObject> selected() const;
   /// Selects or unselects without reporting a change, as the user's own action does.
   void setSelected(ListItemObject& item, bool isSelected);

@@ -46,7 +46,7 @@ std::optional<DialogResults> MessageBoxes::nextAnswer(const MessageBox& box) {
     return adsk::core::DialogOK;
   }
   if (queue.empty()) {
-    return standing;
+    return standing || !person ? standing : person(box);
   }
   const DialogResults answer = queue.front();
   queue.pop_front();

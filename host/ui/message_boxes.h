@@ -4,8 +4,10 @@
 #include <Core/CoreAll.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace headless {
@@ -19,13 +21,15 @@ struct MessageBox {
   adsk::core::DialogResults answer = adsk::core::DialogError;
 };
 
-/// Answers boxes from a queue, then by a standing answer, then, for boxes with OK only, by OK.
+/// Answers boxes with OK only by OK, others from a queue, then by a standing answer, then by whoever can be asked.
 class MessageBoxes {
  public:
   /// Answers the next box that has no answer yet.
   void answerNext(adsk::core::DialogResults answer) { queue.push_back(answer); }
   /// Answers all boxes that the queue does not answer.
   void answerAlways(adsk::core::DialogResults answer) { standing = answer; }
+  /// Somebody to ask when no answer was prepared; may be empty. DialogError for no answer.
+  void askBy(std::function<adsk::core::DialogResults(const MessageBox&)> somebody) { person = std::move(somebody); }
 
   /// Shows the box and gives its answer; DialogError when nobody is there to answer or the box has no such button.
   adsk::core::DialogResults show(MessageBox box);
@@ -39,6 +43,7 @@ class MessageBoxes {
 
   std::deque<adsk::core::DialogResults> queue;
   std::optional<adsk::core::DialogResults> standing;
+  std::function<adsk::core::DialogResults(const MessageBox&)> person;
   std::vector<MessageBox> shownBoxes;
   std::size_t unansweredCount = 0;
 };

@@ -119,8 +119,8 @@ std::optional<DialogView> viewDialog(const UserInterfaceObject& ui) {
   // The host's own text of the only button.
   const std::string standardCancel = options.isOKButtonVisible ? "Cancel" : "CLOSE";
   view.cancelText = options.cancelButtonText.empty() ? standardCancel : options.cancelButtonText;
-  view.width = options.initialWidth;
-  view.height = options.initialHeight;
+  view.width = options.initialSize.width;
+  view.height = options.initialSize.height;
   view.inputs = viewInputs(command->inputs());
   return view;
 }
@@ -132,9 +132,11 @@ std::vector<ButtonView> viewToolbar(const UserInterfaceObject& ui) {
       for (const auto& panel : tab->panels()) {
         for (const auto& control : panel->controlList().all()) {
           const DefinitionObject& definition = control->definition();
-          buttons.push_back({tab->tabName(), panel->panelId(), panel->panelName(), control->controlId(),
-                             definition.texts().name, definition.texts().tooltip, definition.texts().resourceFolder,
-                             control->promoted, !definition.isAlive()});
+          if (control->visible && definition.isShown()) {
+            buttons.push_back({tab->tabName(), panel->panelId(), panel->panelName(), control->controlId(),
+                               definition.texts().name, definition.texts().tooltip, definition.texts().resourceFolder,
+                               control->promoted, !definition.isAlive(), definition.isUsable()});
+          }
         }
       }
     }

@@ -78,12 +78,14 @@ struct ButtonView {
   bool isPromoted = false;
   /// Its definition was deleted: a click does nothing.
   bool isDead = false;
+  /// False when it is greyed out.
+  bool isEnabled = true;
 };
 
 /// The dialog as it stands; nothing when no dialog is open.
 std::optional<DialogView> viewDialog(const UserInterfaceObject& ui);
 
-/// All buttons that a client put into the toolbar, in order.
+/// All visible buttons that a client put into the toolbar, in order.
 std::vector<ButtonView> viewToolbar(const UserInterfaceObject& ui);
 
 }  // namespace headless

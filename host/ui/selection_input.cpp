@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "host/entities/design_objects.h"
 #include "host/ui/inputs.h"
 
 namespace headless {
@@ -14,8 +15,14 @@ using adsk::core::Selection;
 
 namespace {
 
+template <class Kind>
+bool isA(const Ptr<Base>& entity) {
+  return entity->query<Kind>() != nullptr;
+}
+
 bool isRootComponent(const Ptr<Base>& entity) {
-  return entity->objectType() == adsk::fusion::Component::classType();
+  const auto* component = objectBehind<ComponentObject>(entity);
+  return component != nullptr && &component->data() == &component->data().design->root();
 }
 
 struct Filter {
@@ -24,10 +31,10 @@ struct Filter {
 };
 
 constexpr std::array<Filter, 4> knownFilters{{
-    {"Occurrences", [](const Ptr<Base>& e) { return e->objectType() == adsk::fusion::Occurrence::classType(); }},
+    {"Occurrences", isA<adsk::fusion::Occurrence>},
     {"RootComponents", isRootComponent},
-    {"Bodies", [](const Ptr<Base>& e) { return e->objectType() == adsk::fusion::BRepBody::classType(); }},
-    {"Faces", [](const Ptr<Base>& e) { return e->objectType() == adsk::fusion::BRepFace::classType(); }},
+    {"Bodies", isA<adsk::fusion::BRepBody>},
+    {"Faces", isA<adsk::fusion::BRepFace>},
 }};
 
 const Filter* filterNamed(const std::string& name) {
@@ -36,18 +43,21 @@ const Filter* filterNamed(const std::string& name) {
   return found == knownFilters.end() ? nullptr : found;
 }
 
+bool isFocused(const InputCore* input) {
+  return input->enabled && dynamic_cast<const SelectionInput*>(input) != nullptr;
+}
+
 }  // namespace
 
 SelectionInput::SelectionInput(InputOwner& inputOwner, InputCollection& collection, std::string inputId,
                                std::string inputLabel, std::string prompt)
-    : Input(inputOwner, collection, std::move(inputId), std::move(inputLabel)), prompt_(std::move(prompt)) {}
-
-bool SelectionInput::isEnabled() const {
-  return hasFocus();
+    : Input(inputOwner, collection, std::move(inputId), std::move(inputLabel)), prompt_(std::move(prompt)) {
+  const auto& byId = owner.inputsById();
+  enabled = std::none_of(byId.begin(), byId.end(), [](const auto& each) { return isFocused(each.second); });
 }
 
 bool SelectionInput::isEnabled(bool value) {
-  return hasFocus(value);
+  return setFocus("isEnabled=", value);
 }
 
 bool SelectionInput::setSelectionLimits(size_t minimum, size_t maximum) {
@@ -161,41 +171,51 @@ bool SelectionInput::hasFocus() const {
 }
 
 bool SelectionInput::hasFocus(bool value) {
+  return setFocus("hasFocus=", value);
+}
+
+// The focus goes from one selection input to another; a hidden one cannot have it.
+bool SelectionInput::setFocus(const char* member, bool value) {
   return call(
-      "hasFocus=",
+      member,
       [&] {
-        if (visible) {
-          enabled = value;
+        if (!visible) {
+          return false;
         }
-        return visible;
+        for (const auto& [id, input] : owner.inputsById()) {
+          if (value && isFocused(input)) {
+            input->enabled = false;
+          }
+        }
+        enabled = value;
+        return true;
       },
       value);
 }
 
 std::string SelectionInput::whyRefused(const Ptr<Base>& entity) const {
-  if (!entity) {
+  if (!isThere(entity)) {
     return "there is nothing to pick";
   }
-  const bool isKnown =
-      std::any_of(knownFilters.begin(), knownFilters.end(), [&](const Filter& filter) { return filter.fits(entity); });
-  const bool passes =
-      filters_.empty() ? isKnown : std::any_of(filters_.begin(), filters_.end(), [&](const std::string& filter) {
-        return filterNamed(filter)->fits(entity);
-      });
+  const bool passes = filters_.empty() || std::any_of(filters_.begin(), filters_.end(), [&](const std::string& filter) {
+                        return filterNamed(filter)->fits(entity);
+                      });
   if (!passes) {
     return "the selection filter does not let it through";
   }
   if (maximum_ != 0 && selections.size() >= maximum_) {
     return "no more than " + std::to_string(maximum_) + " may be selected";
   }
-  const bool isSelected = std::any_of(selections.begin(), selections.end(), [&](const Ptr<SelectionObject>& each) {
-    return isSameEntity(each->picked(), entity);
-  });
-  return isSelected ? "it is selected already" : "";
+  return isPicked(entity) ? "it is selected already" : "";
+}
+
+bool SelectionInput::isPicked(const Ptr<Base>& entity) const {
+  return identities.count(identityOf(entity)) != 0;
 }
 
 void SelectionInput::pick(const Ptr<Base>& entity) {
   selections.push_back(makeObject<SelectionObject>(entity));
+  identities.insert(identityOf(entity));
 }
 
 bool SelectionInput::unpick(const Ptr<Base>& entity) {
@@ -207,6 +227,7 @@ bool SelectionInput::unpick(const Ptr<Base>& entity) {
   }
   (*found)->markDeleted();
   selections.erase(found);
+  identities.erase(identityOf(entity));
   return true;
 }
 
@@ -216,11 +237,16 @@ bool SelectionInput::dropAll() {
   }
   const bool hadSome = !selections.empty();
   selections.clear();
+  identities.clear();
   return hadSome;
 }
 
 void SelectionInput::visibilityChanged() {
-  if (!visible && dropAll()) {
+  if (visible) {
+    return;
+  }
+  enabled = false;
+  if (dropAll()) {
     owner.selectionClearedByProgram(*this);
   }
 }

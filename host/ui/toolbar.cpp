@@ -169,16 +169,21 @@ std::string ControlsObject::traceDetail() const {
   return isAlive() ? panel.panelId() : std::string();
 }
 
-PanelObject::PanelObject(TabObject& owner, std::string panelId, std::string panelName, const Profile& hostProfile)
+PanelObject::PanelObject(TabObject& owner, std::string panelId, std::string panelName, DeletedPanelControls whenDeleted)
     : tab(owner),
       id_(std::move(panelId)),
       name_(std::move(panelName)),
-      profile(hostProfile),
+      afterDeletion(whenDeleted),
       controls_(makeObject<ControlsObject>(*this)) {}
 
 PanelObject::~PanelObject() {
+  markGone();
+}
+
+void PanelObject::markGone() {
   controls_->removeAll();
   controls_->markDeleted();
+  markDeleted();
 }
 
 std::string PanelObject::id() const {
@@ -190,7 +195,7 @@ std::string PanelObject::name() const {
 }
 
 Ptr<adsk::core::ToolbarControls> PanelObject::controls() const {
-  const bool answersAfterDeletion = profile.deletedPanelControls == DeletedPanelControls::EmptyCollection;
+  const bool answersAfterDeletion = afterDeletion == DeletedPanelControls::EmptyCollection && controls_->isAlive();
   return CallGate::pass(classType(), this, isAlive() || answersAfterDeletion, "controls",
                         [this] { return Ptr<adsk::core::ToolbarControls>(controls_); });
 }
@@ -200,10 +205,6 @@ size_t PanelObject::index() const {
     const auto panels = tab.home().panels();
     return static_cast<size_t>(std::find(panels.begin(), panels.end(), this) - panels.begin());
   });
-}
-
-bool PanelObject::isVisible() const {
-  return call("isVisible", [] { return true; });
 }
 
 bool PanelObject::deleteMe() {
@@ -260,16 +261,13 @@ Ptr<adsk::core::ToolbarPanel> PanelsObject::add(const std::string& id, const std
         if (id.empty() || workspace.findPanel(id) != nullptr) {
           return nullptr;
         }
-        TabObject* home = tab != nullptr ? tab : workspace.findTab("ToolsTab");
-        if (home == nullptr) {
-          home = &workspace.addTab("ToolsTab", "TOOLS");
-        }
-        const auto& panels = home->panels();
+        TabObject& home = tab != nullptr ? *tab : workspace.toolsTab();
+        const auto& panels = home.panels();
         const auto named =
             std::find_if(panels.begin(), panels.end(), [&](const auto& each) { return each->panelId() == positionID; });
         const auto position = positionFor(static_cast<std::size_t>(named - panels.begin()), named != panels.end(),
                                           isBefore, panels.size());
-        return handleOf<adsk::core::ToolbarPanel>(&home->insert(id, name, position));
+        return handleOf<adsk::core::ToolbarPanel>(&home.insert(id, name, position));
       },
       id, name, positionID, isBefore);
 }
@@ -288,10 +286,15 @@ TabObject::TabObject(WorkspaceObject& owner, std::string tabId, std::string tabN
       collection(makeObject<PanelsObject>(owner, this)) {}
 
 TabObject::~TabObject() {
+  markGone();
+}
+
+void TabObject::markGone() {
   for (const Ptr<PanelObject>& panel : panels_) {
-    panel->markDeleted();
+    panel->markGone();
   }
   collection->markDeleted();
+  markDeleted();
 }
 
 std::string TabObject::id() const {
@@ -319,7 +322,7 @@ bool TabObject::isNative() const {
 }
 
 PanelObject& TabObject::insert(const std::string& panelId, const std::string& panelName, std::size_t position) {
-  const auto added = makeObject<PanelObject>(*this, panelId, panelName, workspace.hostProfile());
+  const auto added = makeObject<PanelObject>(*this, panelId, panelName, workspace.hostProfile().deletedPanelControls);
   panels_.insert(panels_.begin() + static_cast<std::ptrdiff_t>(position), added);
   return *added.get();
 }
@@ -350,11 +353,16 @@ WorkspaceObject::WorkspaceObject(std::string workspaceId, std::string workspaceN
       panelCollection(makeObject<PanelsObject>(*this, nullptr)) {}
 
 WorkspaceObject::~WorkspaceObject() {
+  markGone();
+}
+
+void WorkspaceObject::markGone() {
   for (const Ptr<TabObject>& tab : tabs_) {
-    tab->markDeleted();
+    tab->markGone();
   }
   tabCollection->markDeleted();
   panelCollection->markDeleted();
+  markDeleted();
 }
 
 std::string WorkspaceObject::id() const {
@@ -390,12 +398,17 @@ TabObject& WorkspaceObject::addTab(const std::string& tabId, const std::string& 
   return *tabs_.back().get();
 }
 
+TabObject& WorkspaceObject::toolsTab() {
+  TabObject* found = findTab("ToolsTab");
+  return found != nullptr ? *found : addTab("ToolsTab", "UTILITIES");
+}
+
 bool WorkspaceObject::removeTab(const std::string& tabId) {
   TabObject* gone = findTab(tabId);
   if (gone == nullptr) {
     return false;
   }
-  gone->markDeleted();
+  gone->markGone();
   eraseFrom(tabs_, gone);
   return true;
 }
@@ -447,9 +460,16 @@ bool WorkspacesObject::remove(const std::string& id) {
   if (gone == nullptr) {
     return false;
   }
-  gone->markDeleted();
+  gone->markGone();
   eraseFrom(workspaces, gone);
   return true;
+}
+
+void WorkspacesObject::markGone() {
+  for (const Ptr<WorkspaceObject>& workspace : workspaces) {
+    workspace->markGone();
+  }
+  markDeleted();
 }
 
 }  // namespace headless

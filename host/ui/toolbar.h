@@ -79,20 +79,21 @@ class ControlsObject final : public HostObject<adsk::core::ToolbarControls> {
 /// A panel of a tab. Deleting it takes its controls away.
 class PanelObject final : public HostObject<adsk::core::ToolbarPanel> {
  public:
-  PanelObject(TabObject& owner, std::string panelId, std::string panelName, const Profile& hostProfile);
+  PanelObject(TabObject& owner, std::string panelId, std::string panelName, DeletedPanelControls whenDeleted);
   ~PanelObject() override;
 
   std::string id() const override;
   std::string name() const override;
   adsk::core::Ptr<adsk::core::ToolbarControls> controls() const override;
   size_t index() const override;
-  bool isVisible() const override;
   bool deleteMe() override;
 
   /// For the host's own use.
   const std::string& panelId() const { return id_; }
   const std::string& panelName() const { return name_; }
   ControlsObject& controlList() const { return *controls_.get(); }
+  /// The panel and everything on it answer with nothing from now on.
+  void markGone();
 
  protected:
   std::string traceDetail() const override { return id_; }
@@ -101,7 +102,7 @@ class PanelObject final : public HostObject<adsk::core::ToolbarPanel> {
   TabObject& tab;
   std::string id_;
   std::string name_;
-  const Profile& profile;
+  DeletedPanelControls afterDeletion;
   adsk::core::Ptr<ControlsObject> controls_;
 };
 
@@ -144,6 +145,7 @@ class TabObject final : public HostObject<adsk::core::ToolbarTab> {
   const std::vector<adsk::core::Ptr<PanelObject>>& panels() const { return panels_; }
   PanelObject& insert(const std::string& panelId, const std::string& panelName, std::size_t position);
   void remove(PanelObject& panel);
+  void markGone();
 
  protected:
   std::string traceDetail() const override { return id_; }
@@ -185,11 +187,14 @@ class WorkspaceObject final : public HostObject<adsk::core::Workspace> {
   const std::vector<adsk::core::Ptr<TabObject>>& tabs() const { return tabs_; }
   TabObject* findTab(const std::string& tabId) const;
   TabObject& addTab(const std::string& tabId, const std::string& tabName);
+  /// Where panels without a tab go; made when it is missing.
+  TabObject& toolsTab();
   /// False when there is no such tab.
   bool removeTab(const std::string& tabId);
   /// All panels in the order of tabs and panels.
   std::vector<PanelObject*> panels() const;
   PanelObject* findPanel(const std::string& panelId) const;
+  void markGone();
 
  protected:
   std::string traceDetail() const override { return id_; }
@@ -215,6 +220,8 @@ class WorkspacesObject final : public HostObject<adsk::core::Workspaces> {
   /// False when there is no such workspace.
   bool remove(const std::string& id);
   const std::vector<adsk::core::Ptr<WorkspaceObject>>& all() const { return workspaces; }
+  /// Every workspace and everything in it answer with nothing from now on.
+  void markGone();
 
  private:
   std::vector<adsk::core::Ptr<WorkspaceObject>> workspaces;

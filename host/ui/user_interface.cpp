@@ -38,11 +38,23 @@ void IdleSelection::drop() {
   selections.clear();
 }
 
+bool IdleSelection::unpick(const Ptr<adsk::core::Base>& entity) {
+  const auto found = std::find_if(selections.begin(), selections.end(), [&](const Ptr<SelectionObject>& each) {
+    return isSameEntity(each->picked(), entity);
+  });
+  if (found == selections.end()) {
+    return false;
+  }
+  (*found)->markDeleted();
+  selections.erase(found);
+  return true;
+}
+
 bool IdleSelection::pick(const Ptr<adsk::core::Base>& entity) {
   const bool isSelected = std::any_of(selections.begin(), selections.end(), [&](const Ptr<SelectionObject>& each) {
     return isSameEntity(each->picked(), entity);
   });
-  if (!entity || isSelected) {
+  if (!isThere(entity) || isSelected) {
     return false;
   }
   selections.push_back(makeObject<SelectionObject>(entity));
@@ -65,9 +77,29 @@ UserInterfaceObject::UserInterfaceObject(const Profile& hostProfile, Boundary& b
       }
     }
   };
+  runner_.showFailure = [this](const std::string& message) {
+    boxes_.show({message, "", adsk::core::OKButtonType, adsk::core::CriticalIconType});
+  };
 }
 
 UserInterfaceObject::~UserInterfaceObject() = default;
+
+std::vector<std::string> UserInterfaceObject::attachedHandlers() const {
+  std::vector<std::string> sentences;
+  const auto look = [&](const std::string& event, std::size_t count) {
+    if (count > 0) {
+      const std::string handlers = count == 1 ? " handler is" : " handlers are";
+      sentences.push_back(std::to_string(count) + handlers + " still attached to " + event);
+    }
+  };
+  look("commandStarting", starting->handlerCount());
+  look("commandCreated", created->handlerCount());
+  look("commandTerminated", terminated->handlerCount());
+  for (const Ptr<DefinitionObject>& definition : definitions_->all()) {
+    look("commandCreated of " + definition->texts().id, definition->createdEvent().handlerCount());
+  }
+  return sentences;
+}
 
 Ptr<adsk::core::Workspaces> UserInterfaceObject::workspaces() const {
   return call("workspaces", [this] { return Ptr<adsk::core::Workspaces>(workspaces_); });
@@ -111,16 +143,16 @@ Ptr<adsk::core::Selections> UserInterfaceObject::activeSelections() const {
 }
 
 void UserInterfaceObject::close() {
-  runner_.end(adsk::core::SessionEndingTerminationReason);
+  runner_.close();
   idleSelection_->drop();
   for (const Ptr<DefinitionObject>& definition : definitions_->all()) {
-    definition->markDeleted();
+    definition->markGone();
   }
   const std::initializer_list<Ptr<ApplicationCommandEventObject>> events{starting, created, terminated};
   for (const auto& event : events) {
     event->markDeleted();
   }
-  workspaces_->markDeleted();
+  workspaces_->markGone();
   definitions_->markDeleted();
   idleSelection_->markDeleted();
   markDeleted();

@@ -28,7 +28,10 @@ class IdleSelection final : public HostObject<adsk::core::Selections> {
 
   /// For the host's own use.
   void drop();
+  /// False when there is nothing to select, or when it is selected already.
   bool pick(const adsk::core::Ptr<adsk::core::Base>& entity);
+  /// False when it is not selected.
+  bool unpick(const adsk::core::Ptr<adsk::core::Base>& entity);
   const std::vector<adsk::core::Ptr<SelectionObject>>& picked() const { return selections; }
 
  private:
@@ -60,6 +63,8 @@ class UserInterfaceObject final : public HostObject<adsk::core::UserInterface> {
   const CommandRunner& runner() const { return runner_; }
   MessageBoxes& boxes() const { return boxes_; }
   std::size_t terminatedHandlerCount() const { return terminated->handlerCount(); }
+  /// A sentence for each application-wide event, and each definition's, that handlers are attached to.
+  std::vector<std::string> attachedHandlers() const;
   /// Every object on screen answers with nothing from now on.
   void close();
 

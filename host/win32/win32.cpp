@@ -28,22 +28,34 @@ HCURSOR cursorNamed(LPCSTR name) {
 constexpr char32_t lastCodePoint = 0x10FFFF;
 constexpr char32_t invalid = 0xFFFFFFFF;
 
+bool isSurrogate(char32_t point) {
+  return point >= 0xD800 && point <= 0xDFFF;
+}
+
 // Reads one code point of UTF-8 and moves on; an invalid byte is read alone, as `invalid`.
 char32_t nextCodePoint(const std::string& text, std::size_t& position) {
   const auto first = static_cast<unsigned char>(text[position++]);
-  const int following = first < 0x80 ? 0 : first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : first >= 0xC2 ? 1 : -1;
-  if (following < 0 || first > 0xF4) {
+  if (first < 0x80) {
+    return first;
+  }
+  const std::size_t following = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
+  if (first < 0xC2 || first > 0xF4 || position + following > text.size()) {
     return invalid;
   }
-  char32_t point = following == 0 ? first : first & (0x3FU >> following);
-  std::size_t ahead = position;
-  for (int i = 0; i < following; ++i, ++ahead) {
-    if (ahead >= text.size() || (static_cast<unsigned char>(text[ahead]) & 0xC0U) != 0x80U) {
+  char32_t point = first & (0x3FU >> following);
+  for (std::size_t ahead = position; ahead < position + following; ++ahead) {
+    const auto byte = static_cast<unsigned char>(text[ahead]);
+    if ((byte & 0xC0U) != 0x80U) {
       return invalid;
     }
-    point = (point << 6U) | (static_cast<unsigned char>(text[ahead]) & 0x3FU);
+    point = (point << 6U) | (byte & 0x3FU);
   }
-  position = ahead;
+  // Longer than needed, or no character at all.
+  constexpr char32_t smallest[] = {0, 0x80, 0x800, 0x10000};
+  if (point < smallest[following] || point > lastCodePoint || isSurrogate(point)) {
+    return invalid;
+  }
+  position += following;
   return point;
 }
 
@@ -64,10 +76,6 @@ void appendUtf8(std::string& text, char32_t point) {
     byte(0x80 | ((point >> 6U) & 0x3FU));
     byte(0x80 | (point & 0x3FU));
   }
-}
-
-bool isSurrogate(char32_t point) {
-  return point >= 0xD800 && point <= 0xDFFF;
 }
 
 // Both conversions answer alike: the size needed for a size of 0, 0 when the result does not fit.

@@ -17,7 +17,7 @@ fail() {
 }
 
 # What building the add-in and the headless host takes.
-build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libocct-data-exchange-dev libtbb-dev gmsh-doc)
+build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libpng-dev libocct-data-exchange-dev libtbb-dev gmsh-doc)
 # What testing takes besides.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev binutils python3 git ca-certificates)
 # What the checks with the second compiler take besides.
@@ -45,6 +45,25 @@ ensure_packages() {
     "${install[@]}" >>"$log_folder/install.log" 2>&1 ||
       { tail -n 20 "$log_folder/install.log" >&2; fail "The packages could not be installed; the log is $log_folder/install.log"; }
   fi
+}
+
+# provide_assembly FILE: puts the assembly as1-tu-203.stp there, out of the package gmsh-doc. Systems that leave out
+# documentation have the package without its files; then they come from the package itself.
+provide_assembly() {
+  local file=$1 packed=usr/share/doc/gmsh-doc/doc/gmsh/demos/api/as1-tu-203.stp.gz unpacked
+  [ -s "$file" ] && return
+  mkdir -p "$(dirname "$file")"
+  if [ -r "/$packed" ]; then
+    gunzip -c "/$packed" >"$file.new"
+  else
+    unpacked=$(mktemp -d)
+    (cd "$unpacked" && { apt-get download -q gmsh-doc || { apt-get update -q && apt-get download -q gmsh-doc; }; } &&
+      dpkg-deb -x gmsh-doc_*.deb .) >"$log_folder/assembly.log" 2>&1 ||
+      { tail -n 5 "$log_folder/assembly.log" >&2; fail "The package gmsh-doc, which holds the assembly, cannot be fetched"; }
+    gunzip -c "$unpacked/$packed" >"$file.new"
+    rm -rf "$unpacked"
+  fi
+  mv "$file.new" "$file"
 }
 
 # Compiler cache, where there is one.

@@ -38,8 +38,10 @@ void AddInTest::start(std::unique_ptr<headless::model::Design> design, Profile p
 }
 
 void AddInTest::finish() {
-  session_->stopAddIn();
-  session_->unloadAddIn();
+  if (session_->isAddInLoaded()) {
+    session_->stopAddIn();
+    session_->unloadAddIn();
+  }
   expectNoErrors();
   session_ = nullptr;
 }

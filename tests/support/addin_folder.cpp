@@ -69,6 +69,27 @@ void AddInFolder::remove(const fs::path& file) const {
   fs::remove_all(folder / file);
 }
 
+std::vector<std::string> AddInFolder::listing(const fs::path& relative) const {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder / relative)) {
+    names.push_back(entry.path().filename().u8string());
+  }
+  return names;
+}
+
+// The order depends on the names of files and not on what is in them.
+void AddInFolder::writeLibraries(const fs::path& libraries, const std::vector<std::string>& contents) const {
+  remove(libraries);
+  makeFolder(libraries);
+  for (std::size_t i = 0; i < contents.size(); ++i) {
+    write(libraries / ("Library" + std::to_string(i) + ".adsklib"), "");
+  }
+  const std::vector<std::string> files = listing(libraries);
+  for (std::size_t i = 0; i < contents.size(); ++i) {
+    write(libraries / files.at(i), contents[i]);
+  }
+}
+
 void AddInFolder::makeFolder(const fs::path& relative) const {
   fs::create_directories(folder / relative);
 }

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace tests {
 
@@ -27,6 +28,10 @@ class AddInFolder {
   std::string read(const std::filesystem::path& file) const;
   bool has(const std::filesystem::path& file) const;
   void remove(const std::filesystem::path& file) const;
+  /// Names of the entries of a folder, in the order in which the file system lists them.
+  std::vector<std::string> listing(const std::filesystem::path& relative) const;
+  /// Replaces the library files of a folder by these, so that the file system lists them in this order.
+  void writeLibraries(const std::filesystem::path& libraries, const std::vector<std::string>& contents) const;
   /// Makes a folder.
   void makeFolder(const std::filesystem::path& relative) const;
   /// Makes the icon of a colour of the RAL library, such as "RAL3000".

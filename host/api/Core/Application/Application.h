@@ -30,7 +30,8 @@ class Application : public Base {
   /// Account name and internal account name of the signed-in user; empty text when nobody is signed in (assumed).
   virtual std::string userName() const = 0;
   virtual std::string userId() const = 0;
-  /// Number of the last error (GenericErrors), 0 when the last call went well (when it is reset is assumed).
+  /// Number of the last error (GenericErrors) and, on request, its text in English; 0 and no text when there was none.
+  /// It stays until the next error (assumed).
   virtual int getLastError(std::string* description = nullptr) const = 0;
 };
 

@@ -4,6 +4,8 @@
 namespace adsk {
 namespace core {
 
+class HandlerAttachments;
+
 /// A handler belongs to the client. Its destructor takes it out of every event it was added to (documented). It is no
 /// API object: it has no references and cannot be copied.
 class EventHandler {
@@ -13,10 +15,9 @@ class EventHandler {
   EventHandler& operator=(const EventHandler&) = delete;
   virtual ~EventHandler();
 
-  /// What the host keeps about the handler; owned by the host.
-  void* attachments() const { return hostData; }
-
  private:
+  // The events that the handler is attached to, as the host keeps them.
+  friend class HandlerAttachments;
   void* hostData;
 };
 

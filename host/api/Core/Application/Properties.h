@@ -15,6 +15,7 @@ class Property;
 class Properties : public Base {
   ADSK_API_CLASS(Properties, Base)
 
+  using iterable_type = Property;
   /// The property of that id, or of that shown name; empty when there is none.
   virtual Ptr<Property> itemById(const std::string& id) const = 0;
   virtual Ptr<Property> itemByName(const std::string& name) const = 0;

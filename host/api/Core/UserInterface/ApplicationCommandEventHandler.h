@@ -9,7 +9,7 @@ namespace core {
 
 class ApplicationCommandEventArgs;
 
-/// To be derived from by whoever wants to be called when a ApplicationCommandEvent fires.
+/// To be derived from by whoever wants to be called when an ApplicationCommandEvent fires.
 class ApplicationCommandEventHandler : public EventHandler {
  public:
   /// Called on the user-interface thread; what happens to an exception that leaves it is the host's affair.

@@ -13,6 +13,7 @@ class ControlDefinition : public Base {
   ADSK_API_CLASS(ControlDefinition, Base)
 
   virtual std::string name() const = 0;
+  virtual bool name(const std::string& value) = 0;
   virtual bool isEnabled() const = 0;
   virtual bool isEnabled(bool value) = 0;
   virtual bool isVisible() const = 0;

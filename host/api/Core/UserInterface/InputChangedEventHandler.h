@@ -9,7 +9,7 @@ namespace core {
 
 class InputChangedEventArgs;
 
-/// To be derived from by whoever wants to be called when a InputChangedEvent fires.
+/// To be derived from by whoever wants to be called when an InputChangedEvent fires.
 class InputChangedEventHandler : public EventHandler {
  public:
   /// Called on the user-interface thread; what happens to an exception that leaves it is the host's affair.

@@ -21,7 +21,6 @@ class ToolbarPanel : public Base {
   virtual Ptr<ToolbarControls> controls() const = 0;
   /// Position among all panels of the workspace.
   virtual size_t index() const = 0;
-  virtual bool isVisible() const = 0;
   /// True when deleted; its controls go with it (the latter assumed).
   virtual bool deleteMe() = 0;
 };

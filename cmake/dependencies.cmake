@@ -1,0 +1,22 @@
+# Libraries that are found in another way when building for Windows from Linux: Debian has no Windows packages of them,
+# but some are headers only, and the test framework comes as sources.
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+  # Never the whole of /usr/include, which holds the headers of another system.
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/include)
+  file(CREATE_LINK /usr/include/nlohmann ${CMAKE_BINARY_DIR}/include/nlohmann SYMBOLIC)
+  add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED GLOBAL)
+  target_include_directories(nlohmann_json::nlohmann_json SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/include)
+  if(TINTORA_WITH_TESTS)
+    set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+    set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    foreach(target gtest gtest_main gmock)
+      target_compile_options(${target} PRIVATE -w)
+    endforeach()
+  endif()
+else()
+  find_package(nlohmann_json REQUIRED)
+  if(TINTORA_WITH_TESTS)
+    find_package(GTest REQUIRED)
+  endif()
+endif()

@@ -1,0 +1,34 @@
+// The add-in's folder for one run of the program.
+#pragma once
+
+#include <filesystem>
+
+namespace headless::cli {
+
+/// The name of the module file in its folder.
+inline constexpr const char* moduleFileName = "Tintora.dll";
+
+/// The folder `addin` beside the program. Raises Failure when the system does not tell where the program is.
+std::filesystem::path addInFolderBesideProgram();
+
+/// A folder to load the add-in from. Without wishing to keep settings that is a copy of it, gone with this object,
+/// without the settings of earlier runs: what was chosen last time must not change what is done this time.
+class AddInCopy {
+ public:
+  enum class Settings { Fresh, Kept };
+
+  /// Raises Failure when `folder` holds no add-in or cannot be copied.
+  AddInCopy(const std::filesystem::path& folder, Settings settings);
+  AddInCopy(const AddInCopy&) = delete;
+  AddInCopy& operator=(const AddInCopy&) = delete;
+  ~AddInCopy();
+
+  const std::filesystem::path& folder() const { return used; }
+  std::filesystem::path module() const { return used / moduleFileName; }
+
+ private:
+  std::filesystem::path temporary;
+  std::filesystem::path used;
+};
+
+}  // namespace headless::cli

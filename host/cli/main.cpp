@@ -1,0 +1,83 @@
+// tintora-host: the add-in on an assembly, without the CAD program.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/cli/commands.h"
+#include "host/cli/failure.h"
+#include "host/cli/help_formatter.h"
+#include "host/cli/text_layout.h"
+
+namespace {
+
+using namespace headless::cli;
+
+constexpr const char* manual = R"(Examples:
+  tintora-host tree pump.step
+  tintora-host dialog pump.step --filter body --select 'housing:1/*'
+  tintora-host apply pump.step --filter body --select '*cover*' \
+      --appearance 'RAL 3000 Flame red' --save red.step
+  tintora-host apply pump.step --filter component --select 'bolt:*' \
+      --material 'Stainless steel AISI 304' --set-appearance-by-material \
+      --save steel.step --glb steel.glb
+  tintora-host clear red.step --filter body --select '*' --save plain.step
+
+Everything is done in the add-in's own dialog. The file that is read is never changed;
+files that are written appear whole or not at all. Progress and errors go to the error
+stream.
+
+Exit codes: 0 done; 1 could not be done, the message says why; 2 the command line makes
+no sense. More about a command: tintora-host COMMAND --help)";
+
+std::string unknownCommand(const CLI::App& program, const std::string& given) {
+  std::vector<std::string> names;
+  for (const CLI::App* command : program.get_subcommands({})) {
+    names.push_back(command->get_name());
+  }
+  const std::string near = didYouMean(given, names);
+  return "There is no command \"" + given + "\"" + (near.empty() ? "; there are " + listed(names, names.size()) : near);
+}
+
+int run(int argc, char** argv) {
+  CLI::App program("Runs the add-in Tintora on STEP assemblies, without the CAD program.", "tintora-host");
+  program.set_version_flag("--version", "tintora-host " TINTORA_VERSION);
+  program.formatter(std::make_shared<HelpFormatter>());
+  program.require_subcommand(1);
+  program.footer(manual);
+  addTreeCommand(program);
+  addDialogCommand(program);
+  addRenderCommand(program);
+  addApplyCommand(program);
+  addClearCommand(program);
+  addDemoCommand(program);
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    if (argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty()) {
+      throw UsageError(unknownCommand(program, argv[1]));
+    }
+    return program.exit(error) == 0 ? exitSuccess : exitUsage;
+  }
+  return exitSuccess;
+}
+
+int report(const std::exception& error, int exitCode) {
+  std::fflush(stdout);
+  std::fprintf(stderr, "tintora-host: %s\n", error.what());
+  return exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run(argc, argv);
+  } catch (const UsageError& error) {
+    return report(error, exitUsage);
+  } catch (const std::exception& error) {
+    return report(error, exitFailure);
+  }
+}

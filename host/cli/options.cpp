@@ -1,0 +1,116 @@
+#include "host/cli/options.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "host/runtime/profile.h"
+
+namespace headless::cli {
+
+namespace {
+
+constexpr const char* pathHelp = R"(Objects are picked by their paths:
+  component  "A:1+B:2"            an occurrence, by the names from the top down to it
+  body       "A:1+B:2/Body1"      a body, by its occurrence; "Body1" in the root
+  face       "A:1+B:2/Body1/Face3"
+"tintora-host tree FILE --json --all" lists all of them. In GLOB, "*" stands for any text
+("/" and "+" included), "?" for one character, "[ab]" for one of those; "\" takes the
+meaning from the next character. Quote it, so that the shell leaves it alone. A GLOB that
+matches nothing is an error.)";
+
+constexpr const char* pickGroup = "What to pick";
+constexpr const char* saveGroup = "What to save";
+constexpr const char* hostGroup = "Add-in and host";
+
+}  // namespace
+
+void addInputFile(CLI::App& command, std::filesystem::path& file) {
+  command.add_option("FILE", file, "The assembly, a STEP file (AP203, AP214 or AP242); it is only read")->required();
+}
+
+void addHostOptions(CLI::App& command, SittingOptions& options) {
+  command
+      .add_option("--addin", options.addInFolder,
+                  "Folder of the add-in, with Tintora.dll and resources/Libs; the folder addin beside this program "
+                  "unless given")
+      ->type_name("FOLDER")
+      ->group(hostGroup);
+  command.add_flag("-q,--quiet", options.isQuiet, "Show no progress")->group(hostGroup);
+}
+
+void addAddInOptions(CLI::App& command, SittingOptions& options) {
+  addHostOptions(command, options);
+  command
+      .add_option("--profile", options.profile,
+                  "How the host behaves where hosts differ: lenient, documented (unless given) or hostile")
+      ->check(CLI::IsMember(profileNames()))
+      ->type_name("NAME")
+      ->group(hostGroup);
+  command
+      .add_flag("--keep-settings", options.keepsSettings,
+                "Run the add-in in its folder, with the dialog as it was last used, and remember it again; without "
+                "this every run starts afresh in a temporary copy")
+      ->group(hostGroup);
+  command.add_option("--trace", options.traceFile, "Record every call of the host in this file")
+      ->type_name("FILE")
+      ->group(hostGroup);
+  command.add_flag("--count-calls", options.countsCalls, "Print how often each call of the host was made")
+      ->group(hostGroup);
+}
+
+void checkTrace(const std::filesystem::path& input, const SittingOptions& options) {
+  if (!options.traceFile.empty()) {
+    requireOtherFile(input, options.traceFile);
+  }
+}
+
+Picks PickOptions::picks() const {
+  const auto word = std::find(kindWords.begin(), kindWords.end(), kindWord);
+  return {static_cast<PickKind>(word - kindWords.begin()), patterns};
+}
+
+void addPickOptions(CLI::App& command, PickOptions& options, Picking picking) {
+  const bool isRequired = picking == Picking::Required;
+  auto* filter = command.add_option("--filter", options.kindWord, "What is picked: component, body or face")
+                     ->check(CLI::IsMember(kindWords))
+                     ->type_name("KIND")
+                     ->group(pickGroup)
+                     ->required(isRequired);
+  auto* select = command.add_option("--select", options.patterns, "The objects to pick, one or more patterns")
+                     ->type_name("GLOB")
+                     ->group(pickGroup)
+                     ->required(isRequired);
+  if (!isRequired) {
+    filter->needs(select);
+    select->needs(filter);
+  }
+  command.footer(pathHelp);
+}
+
+void addOutputOptions(CLI::App& command, OutputFiles& outputs) {
+  command.add_option("--save", outputs.step, "Where to save the assembly as STEP (AP214)")
+      ->required()
+      ->type_name("OUT.step")
+      ->group(saveGroup);
+  command.add_option("--glb", outputs.glb, "Where to save it for viewers as well")
+      ->type_name("OUT.glb")
+      ->group(saveGroup);
+}
+
+bool ColourOption::isOn() const {
+  if (when != "auto") {
+    return when == "always";
+  }
+  const char* noColour = std::getenv("NO_COLOR");
+  return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
+}
+
+void addColourOption(CLI::App& command, ColourOption& option) {
+  command.add_option("--colour", option.when, "Blocks of colour: auto (in a terminal), always or never")
+      ->check(CLI::IsMember({"auto", "always", "never"}))
+      ->type_name("WHEN");
+}
+
+}  // namespace headless::cli

@@ -1,0 +1,53 @@
+// Options that several sub-commands share.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "host/cli/dialog_work.h"
+#include "host/cli/output_files.h"
+#include "host/cli/sitting.h"
+
+namespace headless::cli {
+
+/// FILE, the assembly.
+void addInputFile(CLI::App& command, std::filesystem::path& file);
+
+/// --addin and --quiet.
+void addHostOptions(CLI::App& command, SittingOptions& options);
+
+/// The same and --profile, --keep-settings, --trace and --count-calls, for commands that run the add-in.
+void addAddInOptions(CLI::App& command, SittingOptions& options);
+
+/// Raises UsageError when the trace would replace the input.
+void checkTrace(const std::filesystem::path& input, const SittingOptions& options);
+
+/// --filter and --select as given.
+struct PickOptions {
+  std::string kindWord;
+  std::vector<std::string> patterns;
+
+  Picks picks() const;
+};
+
+/// Whether something must be picked.
+enum class Picking { Required, Optional };
+
+void addPickOptions(CLI::App& command, PickOptions& options, Picking picking);
+
+/// --save, which is required, and --glb.
+void addOutputOptions(CLI::App& command, OutputFiles& outputs);
+
+/// --colour as given.
+struct ColourOption {
+  std::string when = "auto";
+
+  /// True when the standard output is to be coloured.
+  bool isOn() const;
+};
+
+void addColourOption(CLI::App& command, ColourOption& option);
+
+}  // namespace headless::cli

@@ -1,0 +1,91 @@
+#include "host/cli/picking.h"
+
+#include <fnmatch.h>
+
+#include <algorithm>
+#include <array>
+
+#include "host/cli/failure.h"
+#include "host/cli/text_layout.h"
+
+namespace headless::cli {
+
+namespace {
+
+constexpr std::array<PickKind, 3> kinds = {PickKind::Component, PickKind::Body, PickKind::Face};
+
+// Looking for near paths among more than this takes longer than anybody waits for an error message.
+constexpr std::size_t comparablePaths = 20'000;
+constexpr std::size_t shownPaths = 4;
+
+bool matches(const std::string& pattern, const std::string& path) {
+  return pattern == path || fnmatch(pattern.c_str(), path.c_str(), 0) == 0;
+}
+
+std::size_t countOf(const std::vector<Pickable>& objects, const std::string& pattern) {
+  return static_cast<std::size_t>(
+      std::count_if(objects.begin(), objects.end(), [&](const Pickable& each) { return matches(pattern, each.path); }));
+}
+
+// The pattern may be meant for another filter: "rod*" is no body, but bodies are in it.
+std::string hintAboutOtherKinds(const model::Design& design, PickKind kind, const std::string& pattern) {
+  for (const PickKind other : kinds) {
+    const std::size_t count = other == kind ? 0 : countOf(pickablesOf(design, other), pattern);
+    if (count > 0) {
+      return "; it matches " + countedKind(count, other) + ", for which there is --filter " +
+             kindWords[static_cast<std::size_t>(other)];
+    }
+  }
+  return "";
+}
+
+std::string hintAboutPaths(const std::vector<Pickable>& objects, const std::string& pattern) {
+  std::vector<std::string> paths;
+  for (const Pickable& each : objects) {
+    paths.push_back(each.path);
+  }
+  const std::string near = paths.size() > comparablePaths ? "" : didYouMean(pattern, paths);
+  if (!near.empty()) {
+    return near;
+  }
+  return paths.empty() ? "; there are none in this design" : "; there are " + listed(paths, shownPaths);
+}
+
+[[noreturn]] void failMatching(const model::Design& design, PickKind kind, const std::vector<Pickable>& objects,
+                               const std::string& pattern) {
+  const std::string otherKind = hintAboutOtherKinds(design, kind, pattern);
+  throw Failure("No " + kindWords[static_cast<std::size_t>(kind)] + " of " + design.name + " matches \"" + pattern +
+                "\"" + (otherKind.empty() ? hintAboutPaths(objects, pattern) : otherKind));
+}
+
+}  // namespace
+
+std::string countedKind(std::size_t count, PickKind kind) {
+  return counted(count, kindWords[static_cast<std::size_t>(kind)], kind == PickKind::Body ? "bodies" : "");
+}
+
+std::vector<Pickable> matching(const model::Design& design, PickKind kind, const std::vector<std::string>& patterns) {
+  std::vector<Pickable> objects = pickablesOf(design, kind);
+  std::vector<bool> isUsed(patterns.size(), false);
+  std::vector<Pickable> found;
+  for (const Pickable& each : objects) {
+    bool isMatched = false;
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+      if (matches(patterns[i], each.path)) {
+        isUsed[i] = true;
+        isMatched = true;
+      }
+    }
+    if (isMatched) {
+      found.push_back(each);
+    }
+  }
+  for (std::size_t i = 0; i < patterns.size(); ++i) {
+    if (!isUsed[i]) {
+      failMatching(design, kind, objects, patterns[i]);
+    }
+  }
+  return found;
+}
+
+}  // namespace headless::cli

@@ -1,0 +1,26 @@
+// Pictures of assemblies: orthographic, from the front, the right and above.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+#include "host/step/triangles.h"
+
+namespace headless::cli {
+
+/// Rows from the top, each pixel three bytes: red, green, blue.
+struct Picture {
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint8_t> pixels;
+};
+
+/// Draws the triangles so that they fill the picture, lit from the viewer's side, with a line where faces meet, on
+/// white.
+Picture drawn(const std::vector<step::Triangle>& triangles, int width, int height);
+
+/// Writes a PNG file, whole or not at all. Raises step::Error.
+void writePng(const Picture& picture, const std::filesystem::path& file);
+
+}  // namespace headless::cli

@@ -1,0 +1,52 @@
+#include "host/cli/progress_line.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace headless::cli {
+
+namespace {
+
+// What is over sooner needs no line that flickers by.
+constexpr double secondsBeforeDrawing = 0.3;
+
+}  // namespace
+
+ProgressStyle progressStyle(bool isQuiet) {
+  if (isQuiet) {
+    return ProgressStyle::Silent;
+  }
+  return isatty(STDERR_FILENO) != 0 ? ProgressStyle::Terminal : ProgressStyle::Lines;
+}
+
+ProgressLine::ProgressLine(ProgressStyle progressStyle, const std::string& doing, const std::string& fileName)
+    : style(progressStyle), subject(doing + " " + fileName) {
+  if (style == ProgressStyle::Lines) {
+    std::fprintf(stderr, "%s\n", subject.c_str());
+  }
+}
+
+ProgressLine::~ProgressLine() {
+  if (isDrawn) {
+    std::fputs("\r\x1b[K", stderr);
+  }
+}
+
+step::Progress ProgressLine::reporter() {
+  if (style != ProgressStyle::Terminal) {
+    return {};
+  }
+  return [this](const std::string& phase, double fraction) { show(phase, fraction); };
+}
+
+void ProgressLine::show(const std::string& phase, double fraction) {
+  const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+  if (!isDrawn && seconds < secondsBeforeDrawing) {
+    return;
+  }
+  isDrawn = true;
+  std::fprintf(stderr, "\r\x1b[K%s: %s %3.0f %%", subject.c_str(), phase.c_str(), 100 * fraction);
+}
+
+}  // namespace headless::cli

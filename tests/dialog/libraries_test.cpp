@@ -1,0 +1,250 @@
+#include <algorithm>
+#include <system_error>
+
+#include "tests/dialog/dialog_fixture.h"
+#include "tests/support/trace.h"
+
+namespace tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+using headless::FaultAnswer;
+using headless::Profile;
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+class Libraries : public DialogTest {
+ protected:
+  /// Starts the add-in and builds the dialog, recording what it has the host load.
+  void build(Profile profile = headless::documentedProfile()) {
+    start(std::move(profile));
+    host().gate().startTrace();
+    pressMainButton();
+  }
+
+  /// The calls by which an entry of a library folder was given to the host.
+  std::vector<std::string> loadsOf(const fs::path& entry) {
+    const std::string path = (folder.path() / entry).make_preferred().string();
+    return callsWith(host().gate(), {"MaterialLibraries.load(\"" + path + "\")"});
+  }
+
+  std::vector<std::string> loads() { return callsWith(host().gate(), {"MaterialLibraries.load("}); }
+};
+
+// --- which entries are given to the host -----------------------------------------------------------------------------
+
+struct Entry {
+  const char* description;
+  const char* fileName;
+  bool isGivenToHost;
+  bool isListed;
+};
+
+class LibraryFile : public Libraries, public ::testing::WithParamInterface<Entry> {};
+
+TEST_P(LibraryFile, IsRecognisedByItsName) {
+  addMaterialLibrary(GetParam().fileName, "Found", {{"Brass"}});
+  build();
+  EXPECT_THAT(loadsOf(materialsFolder / GetParam().fileName), SizeIs(GetParam().isGivenToHost ? 1 : 0));
+  const std::vector<std::string> libraries = itemsOf("idLibMaterials");
+  EXPECT_EQ(std::count(libraries.begin(), libraries.end(), "Found"), GetParam().isListed ? 1 : 0);
+  EXPECT_THAT(libraries, Contains("Metals"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, LibraryFile,
+                         ::testing::Values(Entry{"Usual", "Brass.adsklib", true, true},
+                                           Entry{"WithBlanks", "Brass and more.adsklib", true, true},
+                                           Entry{"Twice", "Brass.adsklib.adsklib", true, true},
+                                           Entry{"MarkInside", "old.adsklib.bak", true, false},
+                                           Entry{"MarkInside2", "Colours.adsklib.old", true, false},
+                                           Entry{"LongerEnding", "Brass.adsklibrary", true, false},
+                                           Entry{"UpperCase", "X.ADSKLIB", false, false},
+                                           Entry{"NoDot", "Brassadsklib", false, false},
+                                           Entry{"Text", "readme.txt", false, false}),
+                         [](const auto& info) { return std::string(info.param.description); });
+
+TEST_F(Libraries, FolderNamedLikeALibraryIsGivenToTheHostAndNotEntered) {
+  folder.write(materialsFolder / "x.adsklib" / "Inside.adsklib", materialLibrary("Inside", {{"Brass"}}));
+  build();
+  EXPECT_THAT(loadsOf(materialsFolder / "x.adsklib"), SizeIs(1));
+  EXPECT_THAT(loads(), SizeIs(3));
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
+}
+
+TEST_F(Libraries, OtherFolderIsNeitherGivenToTheHostNorEntered) {
+  folder.write(materialsFolder / "More" / "Inside.adsklib", materialLibrary("Inside", {{"Brass"}}));
+  build();
+  EXPECT_THAT(loads(), SizeIs(2));
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
+}
+
+TEST_F(Libraries, EveryFileIsALibraryFileBelowAFolderThatIsNamedLikeOne) {
+  folder.write(materialsFolder / "readme.txt", "no library");
+  folder.makeFolder("my.adsklib folder");
+  folder.renameModule("my.adsklib folder/Tintora.dll");
+  fs::rename(folder.path() / "resources", folder.path() / "my.adsklib folder" / "resources");
+  build();
+  EXPECT_THAT(loadsOf("my.adsklib folder" / materialsFolder / "readme.txt"), SizeIs(1));
+}
+
+TEST_F(Libraries, FileThatTheHostCannotReadIsSkipped) {
+  folder.write(materialsFolder / "Broken.adsklib", "this is no library");
+  folder.write(materialsFolder / "Empty.adsklib", "");
+  build();
+  EXPECT_THAT(takeErrors(), IsEmpty());
+  EXPECT_THAT(loads(), SizeIs(4));
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+}
+
+TEST_F(Libraries, LinkToNowhereIsTheHostsToRefuse) {
+  std::error_code error;
+  fs::create_symlink("nowhere", folder.path() / materialsFolder / "gone.adsklib", error);
+  if (error) {
+    GTEST_SKIP() << "links cannot be made here: " << error.message();
+  }
+  build();
+  EXPECT_THAT(loadsOf(materialsFolder / "gone.adsklib"), SizeIs(1));
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
+}
+
+// --- names and their order -------------------------------------------------------------------------------------------
+
+TEST_F(Libraries, AreListedInTheOrderOfTheFileSystem) {
+  folder.writeLibraries(appearancesFolder, {appearanceLibrary("Zinc", {}), appearanceLibrary("RAL_COLORS", ralNames),
+                                            appearanceLibrary("Amber", {}), appearanceLibrary("amber", {}),
+                                            appearanceLibrary("Middle", {})});
+  build();
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("Zinc", "RAL_COLORS", "Amber", "amber", "Middle"));
+}
+
+TEST_F(Libraries, AreLoadedByFullPathAppearancesFirst) {
+  folder.writeLibraries(materialsFolder, {materialLibrary("A", {{"Brass"}}), materialLibrary("B", {{"Brass"}})});
+  build();
+  std::vector<std::string> expected;
+  for (const fs::path& kind : {appearancesFolder, materialsFolder}) {
+    for (const std::string& name : folder.listing(kind)) {
+      const std::string path = (folder.path() / kind / name).make_preferred().string();
+      expected.push_back("MaterialLibraries.load(\"" + path + "\")");
+    }
+  }
+  EXPECT_THAT(loads(), ElementsAreArray(expected));
+}
+
+TEST_F(Libraries, OfTheSameNameAreListedOnceEach) {
+  folder.writeLibraries(materialsFolder, {materialLibrary("Twin", {{"Brass"}}), materialLibrary("Twin", {{"Steel"}})});
+  build();
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Twin", "Twin"));
+}
+
+TEST_F(Libraries, AreNamedAsTheHostNamesThem) {
+  addMaterialLibrary("Metals.adsklib", "Gr\xC3\xBCne \"Stoffe\"", {{"Brass"}});
+  build();
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Gr\xC3\xBCne \"Stoffe\""));
+}
+
+TEST_F(Libraries, AreLoadedAnewForEveryDialogAndListedOnce) {
+  build();
+  session().pressCancel();
+  openDialog();
+  EXPECT_THAT(loadsOf(materialsFolder / "Metals.adsklib"), SizeIs(2));
+  EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+}
+
+TEST_F(Libraries, AreFoundByTheNextDialogWhenTheyAreAddedMeanwhile) {
+  build();
+  session().pressCancel();
+  addMaterialLibrary("Stones.adsklib", "Stones", {{"Basalt"}});
+  openDialog();
+  EXPECT_THAT(itemsOf("idLibMaterials"), ::testing::UnorderedElementsAre("Metals", "Stones"));
+}
+
+TEST_F(Libraries, AreMissingInASecondDialogWhereTheHostLoadsAFileOnce) {
+  Profile profile = headless::documentedProfile();
+  profile.secondLoad = headless::SecondLoad::Nothing;
+  build(profile);
+  EXPECT_THAT(inputIds(), SizeIs(16));
+  session().pressCancel();
+  pressMainButton();
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::exception:")));
+  EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(7)));
+  EXPECT_THAT(itemsOf("idLibAssets"), IsEmpty());
+}
+
+// --- folders that cannot be read -------------------------------------------------------------------------------------
+
+struct LibraryKind {
+  const char* name;
+  /// How many inputs there are when its folder is read.
+  std::size_t inputs;
+};
+
+class LibraryFolder : public Libraries, public ::testing::WithParamInterface<LibraryKind> {
+ protected:
+  fs::path kindFolder() const { return fs::path("resources/Libs") / GetParam().name; }
+
+  void expectFileSystemError(const std::string& operation) {
+    const std::vector<headless::BoundaryError> errors = session().takeErrors();
+    ASSERT_THAT(errors, SizeIs(1));
+    EXPECT_EQ(errors[0].where, "commandCreated(idAssetsMatMng)");
+    EXPECT_EQ(errors[0].kind, "std::filesystem::filesystem_error");
+    EXPECT_THAT(errors[0].what, HasSubstr(operation));
+    EXPECT_TRUE(errors[0].code);
+    code = errors[0].code;
+    EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(GetParam().inputs)));
+  }
+
+  std::error_code code;
+};
+
+TEST_P(LibraryFolder, EndsTheDialogWhenItIsMissing) {
+  folder.remove(kindFolder());
+  build();
+  expectFileSystemError("directory_iterator::directory_iterator");
+  EXPECT_EQ(code, std::errc::no_such_file_or_directory);
+}
+
+TEST_P(LibraryFolder, EndsTheDialogWhenItIsAFile) {
+  folder.remove(kindFolder());
+  folder.write(kindFolder(), "not a folder");
+  build();
+  expectFileSystemError("directory_iterator::directory_iterator");
+}
+
+TEST_P(LibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
+  std::error_code error;
+  fs::create_symlink("circle", folder.path() / kindFolder() / "circle", error);
+  if (error) {
+    GTEST_SKIP() << "links cannot be made here: " << error.message();
+  }
+  build();
+  expectFileSystemError("directory_entry::status");
+  EXPECT_EQ(code, std::errc::too_many_symbolic_link_levels);
+}
+
+TEST_P(LibraryFolder, IsReadAgainByTheNextDialog) {
+  const std::vector<std::string> files = folder.listing(kindFolder());
+  const std::string content = folder.read(kindFolder() / files.front());
+  folder.remove(kindFolder());
+  build();
+  EXPECT_THAT(takeErrors(), SizeIs(1));
+  session().pressCancel();
+  folder.write(kindFolder() / files.front(), content);
+  openDialog();
+  EXPECT_THAT(inputIds(), SizeIs(16));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, LibraryFolder,
+                         ::testing::Values(LibraryKind{"Appearances", 6}, LibraryKind{"Materials", 13}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace tests

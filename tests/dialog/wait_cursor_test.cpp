@@ -1,0 +1,81 @@
+#include <ostream>
+
+#include "host/win32/desktop.h"
+#include "tests/support/addin_fixture.h"
+
+namespace tests {
+namespace {
+
+using headless::FaultAnswer;
+using headless::desktop::cursor;
+using headless::desktop::CursorShape;
+using ::testing::SizeIs;
+
+class WaitCursor : public AddInTest {
+ protected:
+  static void expectCursor(CursorShape shape, int displayCount) {
+    EXPECT_EQ(cursor().shape, shape);
+    EXPECT_EQ(cursor().displayCount, displayCount);
+  }
+
+  /// Presses the main button while a call raises, which ends the build there.
+  void failAt(const std::string& call) {
+    host().gate().setFault({1, FaultAnswer::Exception, call});
+    session().press("idAssetsMatMng");
+    EXPECT_THAT(takeErrors(), SizeIs(1));
+  }
+};
+
+class WaitCursorUnderProfile : public AddInUnderProfile {};
+
+TEST_P(WaitCursorUnderProfile, IsGoneWhenTheDialogIsThere) {
+  start(profile());
+  openDialog();
+  EXPECT_EQ(cursor().shape, CursorShape::Arrow);
+  EXPECT_EQ(cursor().displayCount, 0);
+}
+
+INSTANTIATE_UNDER_ALL_PROFILES(WaitCursorUnderProfile);
+
+class WaitCursorDuring : public WaitCursor, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(WaitCursorDuring, IsShownFromTheFirstCallToTheLast) {
+  start();
+  expectCursor(CursorShape::Arrow, 0);
+  failAt(GetParam());
+  expectCursor(CursorShape::Wait, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, WaitCursorDuring,
+                         ::testing::Values("CommandCreatedEventArgs.command", "Command.commandInputs",
+                                           "MaterialLibraries.load", "Command.setDialogInitialSize",
+                                           "Application.currentUser", "SelectionCommandInput.commandPrompt="),
+                         [](const auto& info) {
+                           std::string name = info.param;
+                           return name.substr(name.find('.') + 1, name.find('=') - name.find('.') - 1);
+                         });
+
+TEST_F(WaitCursor, GivesWayToTheCursorThatWasThereBefore) {
+  start();
+  failAt("MaterialLibraries.load");
+  session().pressCancel();
+  openDialog();
+  expectCursor(CursorShape::Wait, 1);
+}
+
+TEST_F(WaitCursor, PilesUpWhenTheBuildFailsAgain) {
+  start();
+  failAt("MaterialLibraries.load");
+  session().pressCancel();
+  failAt("MaterialLibraries.load");
+  expectCursor(CursorShape::Wait, 2);
+}
+
+TEST_F(WaitCursor, IsNotForTheHelpCommand) {
+  start();
+  session().press("idOpenHelp");
+  expectCursor(CursorShape::Arrow, 0);
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,285 @@
+// The inventory of looks that are applied to the selection and to anything below it: what is in it, how the remove
+// button shows it, and where it stops when the host fails.
+#include "inspection/applied_appearances.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "tests/inspection/inventory_fixture.h"
+#include "tests/inspection/stand_ins.h"
+
+namespace tests {
+namespace {
+
+using headless::makeObject;
+using headless::model::Design;
+
+// --- The remove button -----------------------------------------------------------------------------------------------
+
+struct RemoveCase {
+  const char* name;
+  std::function<void(Design&)> paint;
+  const char* filter;
+  std::vector<std::string> picked;
+  bool isEnabled;
+};
+
+void PrintTo(const RemoveCase& value, std::ostream* stream) {
+  *stream << value.name;
+}
+
+std::shared_ptr<const headless::model::Appearance> red() {
+  return std::make_shared<const headless::model::Appearance>(
+      headless::model::Appearance{"red", "Red", {200, 0, 0, 255}});
+}
+
+auto paintedOccurrence(const std::string& path) {
+  return [path](Design& design) { occurrenceAt(design, path).appearance = red(); };
+}
+auto paintedBody(const std::string& component, const std::string& body) {
+  return [=](Design& design) { bodyNamed(design, component, body).appearance = red(); };
+}
+auto paintedFace(const std::string& component, const std::string& body, std::size_t face) {
+  return [=](Design& design) { bodyNamed(design, component, body).faces[face]->appearance = red(); };
+}
+void nothingPainted(Design& /*design*/) {}
+
+class RemoveButton : public InspectionTest, public testing::WithParamInterface<RemoveCase> {};
+
+TEST_P(RemoveButton, IsEnabledWhenSomethingAtOrBelowTheSelectionIsPainted) {
+  start();
+  GetParam().paint(design());
+  openDialog();
+  EXPECT_FALSE(isRemoveEnabled());
+  pickOnly(GetParam().filter);
+  pickAll(GetParam().picked);
+  EXPECT_EQ(isRemoveEnabled(), GetParam().isEnabled);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Selections, RemoveButton,
+    testing::Values(
+        RemoveCase{"Body", paintedBody("Machine", "Base"), "Body", {"Base"}, true},
+        RemoveCase{"BodyWithPaintedFace", paintedFace("Machine", "Base", 1), "Body", {"Base"}, true},
+        RemoveCase{"BodySeenThroughAnotherOccurrence",
+                   paintedBody("Plate", "Plate1"),
+                   "Body",
+                   {"Frame:2+Plate:1/Plate1"},
+                   true},
+        RemoveCase{"UntouchedBody", nothingPainted, "Body", {"Base"}, false},
+        RemoveCase{"UntouchedBodyBesideAPaintedOne", paintedBody("Bolt", "Head"), "Body", {"Bolt:2/Shank"}, false},
+        RemoveCase{"BodyOfAPaintedOccurrence", paintedOccurrence("Frame:1"), "Body", {"Frame:1+Plate:1/Plate1"}, false},
+        RemoveCase{"SecondOfTwoBodies", paintedBody("Bolt", "Head"), "Body", {"Base", "Bolt:2/Head"}, true},
+        RemoveCase{"Face", paintedFace("Machine", "Base", 0), "Face", {"Base/Face1"}, true},
+        RemoveCase{"FaceBesideAPaintedOne", paintedFace("Machine", "Base", 0), "Face", {"Base/Face2"}, false},
+        RemoveCase{"FaceOfAPaintedBody", paintedBody("Machine", "Base"), "Face", {"Base/Face1"}, false},
+        RemoveCase{"Occurrence", paintedOccurrence("Bolt:2"), "Component", {"Bolt:2"}, true},
+        RemoveCase{"OccurrenceWithPaintedChild", paintedOccurrence("Frame:1+Bolt:1"), "Component", {"Frame:1"}, true},
+        RemoveCase{"OccurrenceWithPaintedBody", paintedBody("Bolt", "Head"), "Component", {"Bolt:2"}, true},
+        RemoveCase{"OccurrenceWithPaintedFace", paintedFace("Bolt", "Head", 0), "Component", {"Bolt:2"}, true},
+        RemoveCase{
+            "OccurrenceWithPaintedFaceFarBelow", paintedFace("Plate", "Plate1", 2), "Component", {"Frame:2"}, true},
+        RemoveCase{"OccurrenceUnderAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:1+Plate:1"}, false},
+        RemoveCase{"OccurrenceBesideAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:2"}, false},
+        RemoveCase{"UntouchedOccurrence", nothingPainted, "Component", {"Frame:1"}, false},
+        RemoveCase{"LastOfThreeOccurrences",
+                   paintedOccurrence("Bolt:2"),
+                   "Component",
+                   {"Frame:1", "Frame:2", "Bolt:2"},
+                   true}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+class AppliedAppearances : public InspectionTest {};
+
+TEST_F(AppliedAppearances, OfTheRootComponentAreThoseOfItsOccurrences) {
+  start();
+  occurrence("Frame:2+Bolt:1").appearance = look("Red");
+  openDialog();
+  pickRoot();
+  EXPECT_TRUE(isRemoveEnabled());
+}
+
+TEST_F(AppliedAppearances, OfTheRootComponentLeaveItsOwnBodiesOut) {
+  start();
+  body("Machine", "Base").appearance = look("Red");
+  openDialog();
+  pickRoot();
+  EXPECT_FALSE(isRemoveEnabled());
+}
+
+TEST_F(AppliedAppearances, AreNotThoseReportedAsOtherOverrides) {
+  headless::Profile profile = headless::documentedProfile();
+  profile.ownAppearanceIsOverride = true;
+  start(profile);
+  body("Machine", "Base").appearance = look("Red");
+  openDialog();
+  session().pick("Base");
+  EXPECT_FALSE(isRemoveEnabled());
+  EXPECT_EQ(appearanceText(), "<b>Red</b> - overriden appearance.");
+}
+
+TEST_F(AppliedAppearances, AreTakenAnewAtEachChangeOfTheSelection) {
+  start();
+  body("Machine", "Base").appearance = look("Red");
+  openDialog();
+  session().pick("Base");
+  EXPECT_TRUE(isRemoveEnabled());
+  session().pick("Bolt:2/Head");
+  session().pick("Base");
+  EXPECT_FALSE(isRemoveEnabled());
+}
+
+// --- The routines by themselves --------------------------------------------------------------------------------------
+
+using Inventory = InventoryTest;
+
+TEST_F(Inventory, BeginsAnew) {
+  load();
+  session().openDesign(machine());
+  body("Machine", "Base").appearance = look("Red");
+  collect({{nullptr, {"Base", nullptr, &body("Machine", "Base"), nullptr}}});
+  EXPECT_EQ(taken().bodies.size(), 1U);
+  collect({});
+  EXPECT_TRUE(tintora::appliedAppearances.empty());
+}
+
+TEST_F(Inventory, LeavesOtherClassesAlone) {
+  load();
+  startCounting();
+  tintora::collectAppliedAppearances({handleOf(look("Red"))});
+  EXPECT_TRUE(tintora::appliedAppearances.empty());
+  EXPECT_EQ(host().gate().callCount(), callsOf("Appearance.objectType"));
+}
+
+TEST_F(Inventory, KeepsTheFirstLookOfAFaceThatIsRecordedAgain) {
+  load();
+  const auto face = makeObject<StandInFace>();
+  face->source = 3;
+  face->shown = handleOf(look("First"));
+  tintora::recordFaceOverride(face);
+  face->shown = handleOf(look("Second"));
+  tintora::recordFaceOverride(face);
+  ASSERT_EQ(tintora::appliedAppearances.faceOverrides.size(), 1U);
+  EXPECT_EQ(tintora::appliedAppearances.faceOverrides.begin()->second->name(), "First");
+}
+
+class FaceRecord : public InventoryTest, public testing::WithParamInterface<int> {};
+
+TEST_P(FaceRecord, IsMadeForSourceThreeOnly) {
+  load();
+  const auto face = makeObject<StandInFace>();
+  face->source = GetParam();
+  face->shown = handleOf(look("Red"));
+  tintora::recordFaceOverride(face);
+  EXPECT_EQ(tintora::appliedAppearances.faceOverrides.size(), GetParam() == 3 ? 1U : 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sources, FaceRecord, testing::Range(0, 6));
+
+class BodyRecord : public InventoryTest, public testing::WithParamInterface<int> {};
+
+TEST_P(BodyRecord, IsMadeForSourceOneOnly) {
+  load();
+  session().openDesign(machine());
+  const auto standIn = makeObject<StandInBody>();
+  standIn->source = GetParam();
+  standIn->shown = handleOf(look("Red"));
+  standIn->faceList = entities().body(body("Machine", "Base"), nullptr)->faces();
+  tintora::collectAppliedAppearances({standIn});
+  EXPECT_EQ(tintora::appliedAppearances.bodyOverrides.size(), GetParam() == 1 ? 1U : 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sources, BodyRecord, testing::Range(0, 6));
+
+class InventoryInterrupted : public InventoryTest {
+ protected:
+  /// Frame:1 and what lies below it are painted.
+  void SetUp() override {
+    load();
+    session().openDesign(machine());
+    occurrence("Frame:1").appearance = look("Frame");
+    occurrence("Frame:1+Plate:1").appearance = look("Plate");
+    body("Plate", "Plate1").appearance = look("Body");
+    body("Plate", "Plate1").faces[0]->appearance = look("Face");
+  }
+};
+
+TEST_F(InventoryInterrupted, SelectedOccurrenceIsRecordedBeforeItsChildren) {
+  answerNothingAt("Occurrence.childOccurrences", 1);
+  EXPECT_THROW(collect({occurrenceOf("Frame:1")}), std::exception);
+  EXPECT_EQ(taken().occurrences.size(), 1U);
+  EXPECT_TRUE(taken().bodies.empty());
+}
+
+TEST_F(InventoryInterrupted, OccurrencesBelowAreRecordedAfterTheirChildren) {
+  // Plate:1 is the first child to be left, Bolt:1 the second, Frame:1 comes last.
+  answerNothingAt("Occurrence.bRepBodies", 3);
+  EXPECT_THROW(collect({root()}), std::exception);
+  EXPECT_EQ(taken().occurrences.size(), 2U);
+  answerNothingAt("Occurrence.bRepBodies", 1);
+  EXPECT_THROW(collect({root()}), std::exception);
+  ASSERT_EQ(taken().occurrences.size(), 1U);
+  EXPECT_EQ(taken().occurrences.begin()->second, "Plate");
+}
+
+TEST_F(InventoryInterrupted, BodyIsRecordedBeforeItsFaces) {
+  answerNothingAt("BRepBody.faces", 1);
+  EXPECT_THROW(collect({{nullptr, {"", nullptr, &body("Plate", "Plate1"), nullptr}}}), std::exception);
+  EXPECT_EQ(taken().bodies.size(), 1U);
+  EXPECT_TRUE(taken().faces.empty());
+}
+
+TEST_F(InventoryInterrupted, EmptyEntityEndsItAndWhatCameBeforeStays) {
+  const Entity body = entities().body(this->body("Plate", "Plate1"), nullptr);
+  const Entity frame = entities().occurrence(occurrence("Frame:1"));
+  EXPECT_THROW(tintora::collectAppliedAppearances({body, {}, frame}), std::exception);
+  EXPECT_EQ(taken().bodies.size(), 1U);
+  EXPECT_TRUE(taken().occurrences.empty());
+}
+
+class InventoryMissing : public InspectionTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(InventoryMissing, RaisesAndLeavesTextsAndButton) {
+  startDialog();
+  session().pick("Base");
+  const std::string appearanceBefore = appearanceText();
+  const std::string materialBefore = materialText();
+  letGoSilently();
+  // Something to remove, which the button does not show yet.
+  occurrence("Frame:1").appearance = look("Blue");
+  answerNothingAt(GetParam());
+  pickRoot();
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_EQ(takeErrorKinds(), nullAccess);
+  EXPECT_EQ(appearanceText(), appearanceBefore);
+  EXPECT_EQ(materialText(), materialBefore);
+  EXPECT_FALSE(isRemoveEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, InventoryMissing,
+                         testing::Values("Component.allOccurrences", "OccurrenceList.item",
+                                         "Occurrence.childOccurrences", "Occurrence.bRepBodies", "BRepBodies.item",
+                                         "BRepBody.faces", "BRepFaces.item"),
+                         [](const auto& info) {
+                           std::string name = info.param;
+                           name.erase(std::remove(name.begin(), name.end(), '.'), name.end());
+                           return name;
+                         });
+
+class InventoryOfImpostor : public InventoryTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(InventoryOfImpostor, Raises) {
+  load();
+  EXPECT_THROW(tintora::collectAppliedAppearances({makeObject<Impostor>(GetParam())}), std::exception);
+}
+
+INSTANTIATE_TEST_SUITE_P(Classes, InventoryOfImpostor,
+                         testing::Values(adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(),
+                                         adsk::fusion::BRepBody::classType(), adsk::fusion::BRepFace::classType()),
+                         [](const auto& info) {
+                           const std::string text = info.param;
+                           return text.substr(text.rfind(':') + 1);
+                         });
+
+}  // namespace
+}  // namespace tests

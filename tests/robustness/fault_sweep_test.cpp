@@ -1,0 +1,146 @@
+// Calls that the add-in makes of the host fail once each, by answering nothing and by raising: nothing may crash, get
+// lost or stay behind.
+//
+// A sitting makes some 1,200 calls of 130 names. The tests that always run let the first, second and last call of each
+// name fail; the disabled one goes through every single call.
+#include <gmock/gmock.h>
+
+#include "tests/robustness/scenario.h"
+#include "tests/support/addin_fixture.h"
+
+namespace tests {
+namespace {
+
+using headless::BoundaryError;
+using headless::Fault;
+using headless::FaultAnswer;
+using headless::Host;
+
+class FaultSweep : public AddInTest {
+ protected:
+  FaultSweep() {
+    // Few names, as each one costs several calls.
+    removeLibraries("Appearances");
+    removeLibraries("Materials");
+    addAppearanceLibrary("RAL_COLORS.adsklib", "RAL_COLORS", {"RAL 1000 Green beige", "RAL 3000 Flame red"});
+    addMaterialLibrary("Metals.adsklib", "Metals", {{"Steel 37", 7850}, {"Foam", 999.99}});
+  }
+
+  void useProfile(const headless::Profile& used) {
+    profile = used;
+    faultless = play();
+  }
+
+  Outcome play(const std::function<void(Host&)>& prepare = [](Host& /*host*/) {}) const {
+    return playScenario(folder.module(), profile, prepare);
+  }
+
+  void sweep(const Fault& fault) const {
+    SCOPED_TRACE(fault.call + " number " + std::to_string(fault.nth));
+    folder.remove(settingsFile());
+    const Outcome failed = play([&](Host& host) { host.gate().setFault(fault); });
+    EXPECT_TRUE(failed.faultStruck);
+    EXPECT_THAT(failed.findings, testing::IsEmpty());
+    expectHarmless(failed.errors, fault);
+    // A dialog that the host broke off in the making leaves the handles to the inputs of the one before.
+    EXPECT_THAT(failed.misuses, testing::Each(testing::HasSubstr("CommandInput.")));
+    expectSameAsFaultless(play());
+  }
+
+  /// What comes out is what a missing object, a missing name or the failed call itself raises.
+  static void expectHarmless(const std::vector<BoundaryError>& errors, const Fault& fault) {
+    std::size_t raised = 0;
+    for (const BoundaryError& error : errors) {
+      const bool isTheFault = error.what == fault.call + " was made to fail";
+      EXPECT_THAT(error.kind, testing::AnyOf("std::exception", "std::out_of_range",
+                                             isTheFault ? "std::runtime_error" : "std::exception"))
+          << error.where << ": " << error.what;
+      raised += isTheFault ? 1 : 0;
+    }
+    EXPECT_EQ(raised, fault.answer == FaultAnswer::Exception ? 1U : 0U);
+  }
+
+  /// For a sitting in a fresh session, with the settings that an earlier one left.
+  void expectSameAsFaultless(const Outcome& outcome) const {
+    EXPECT_THAT(outcome.errors, testing::IsEmpty());
+    EXPECT_THAT(outcome.findings, testing::IsEmpty());
+    EXPECT_THAT(outcome.misuses, testing::IsEmpty());
+    EXPECT_EQ(outcome.impossible, faultless.impossible);
+    EXPECT_EQ(outcome.messages, faultless.messages);
+    EXPECT_EQ(outcome.undoSteps, faultless.undoSteps);
+    EXPECT_EQ(outcome.looks, faultless.looks);
+  }
+
+  headless::Profile profile = headless::documentedProfile();
+  Outcome faultless;
+};
+
+TEST_F(FaultSweep, SittingWithoutFaultsUsesEverything) {
+  useProfile(headless::documentedProfile());
+  EXPECT_THAT(faultless.errors, testing::IsEmpty());
+  EXPECT_THAT(faultless.findings, testing::IsEmpty());
+  EXPECT_THAT(faultless.misuses, testing::IsEmpty());
+  EXPECT_THAT(faultless.impossible, testing::IsEmpty());
+  EXPECT_EQ(faultless.undoSteps.size(), 4U);
+  EXPECT_THAT(faultless.messages, testing::ElementsAre("Remove appearances applied to faces?",
+                                                       "Remove appearances applied to bodies & faces?"));
+  EXPECT_GT(faultless.callsByName.size(), 100U);
+}
+
+/// Which call of each name fails.
+enum class Which { First, Second, Last };
+
+struct SweepCase {
+  std::string profile;
+  FaultAnswer answer = FaultAnswer::Nothing;
+  Which which = Which::First;
+};
+
+void PrintTo(const SweepCase& value, std::ostream* stream) {
+  const char* const ordinal = value.which == Which::First ? "First" : value.which == Which::Second ? "Second" : "Last";
+  *stream << ordinal << "CallOfEachName" << (value.answer == FaultAnswer::Nothing ? "AnswersNothing" : "Raises") << "_"
+          << value.profile;
+}
+
+std::vector<SweepCase> sweepCases() {
+  std::vector<SweepCase> cases;
+  for (const char* profile : {"documented", "hostile"}) {
+    for (const FaultAnswer answer : {FaultAnswer::Nothing, FaultAnswer::Exception}) {
+      for (const Which which : {Which::First, Which::Second, Which::Last}) {
+        cases.push_back({profile, answer, which});
+      }
+    }
+  }
+  return cases;
+}
+
+class FaultSweepByName : public FaultSweep, public testing::WithParamInterface<SweepCase> {};
+
+TEST_P(FaultSweepByName, LeavesNothingBroken) {
+  const auto& [profileName, answer, which] = GetParam();
+  useProfile(headless::profileNamed(profileName));
+  for (const auto& [name, count] : faultless.callsByName) {
+    // Each call once: where there are few of a name, the first is also the second or the last.
+    if (which == Which::First || (which == Which::Second && count > 2) || (which == Which::Last && count > 1)) {
+      sweep({which == Which::First ? 1 : which == Which::Second ? 2 : count, answer, name});
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, FaultSweepByName, testing::ValuesIn(sweepCases()),
+                         [](const auto& info) { return testing::PrintToString(info.param); });
+
+TEST_F(FaultSweep, DISABLED_EverySingleCallLeavesNothingBroken) {
+  for (const std::string& profileName : headless::profileNames()) {
+    useProfile(headless::profileNamed(profileName));
+    for (const auto& [name, count] : faultless.callsByName) {
+      for (std::size_t nth = 1; nth <= count; ++nth) {
+        sweep({nth, FaultAnswer::Nothing, name});
+        sweep({nth, FaultAnswer::Exception, name});
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tests

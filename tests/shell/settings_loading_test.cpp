@@ -1,0 +1,330 @@
+#include <algorithm>
+
+#include "host/libraries/library_file.h"
+#include "tests/shell/settings_fixture.h"
+#include "tests/support/trace.h"
+
+namespace tests {
+namespace {
+
+using headless::FaultAnswer;
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+// Every value differs from that of a new dialog.
+const std::vector<std::string> otherLines = {"2",       "0", "Second", "RAL 9005 Jet black", "0", "Stones",
+                                             "Granite", "0", "0"};
+
+// What the dialog shows before and after those lines are restored, in the order in which they are.
+const std::vector<std::string> defaultChoices = {"Body", "1", "1",      "RAL_COLORS", "RAL 1000 Green beige",
+                                                 "1",    "1", "Metals", "Steel 37"};
+const std::vector<std::string> otherChoices = {"Face", "0", "0",      "Second", "RAL 9005 Jet black",
+                                               "0",    "0", "Stones", "Granite"};
+
+/// Step by which the material library was chosen that the material list belongs to.
+constexpr std::size_t materialStep = 8;
+
+/// The choices after the first `steps` of the nine.
+std::vector<std::string> choicesAfter(std::size_t steps) {
+  std::vector<std::string> expected = defaultChoices;
+  std::copy_n(otherChoices.begin(), steps, expected.begin());
+  constexpr std::size_t appearanceLibraryStep = 4;
+  if (steps >= appearanceLibraryStep && steps < materialStep) {
+    // The appearance library's materials are listed meanwhile, and it has none.
+    expected.back() = "nothing found";
+  } else if (steps == materialStep) {
+    expected.back() = "Basalt";
+  }
+  return expected;
+}
+
+class SettingsLoadingUnderProfile : public SettingsTest, public ::testing::WithParamInterface<std::string> {};
+
+TEST_P(SettingsLoadingUnderProfile, RestoresAllNineValuesWithAndWithoutAFinalLineBreak) {
+  for (const char* end : {"", "\n", "\nextra", "\n\n\n"}) {
+    writeSettings(joinLines(otherLines) + end);
+    startDialog(headless::profileNamed(GetParam()));
+    EXPECT_THAT(choices(), ElementsAreArray(otherChoices));
+    EXPECT_EQ(shown("idSelection"), "Select Face");
+    finish();
+  }
+}
+
+INSTANTIATE_UNDER_ALL_PROFILES(SettingsLoadingUnderProfile);
+
+using SettingsLoading = SettingsTest;
+
+TEST_F(SettingsLoading, KeepsTheDefaultsWithoutAFile) {
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
+}
+
+TEST_F(SettingsLoading, KeepsTheDefaultsForAFileThatCannotBeRead) {
+  folder.makeFolder(settingsFile());
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
+}
+
+TEST_F(SettingsLoading, TakesTheFileOfTheUserWhoIsSignedIn) {
+  writeSettings(otherLines);
+  start();
+  host().state().account->userId = "SOMEBODY";
+  openDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
+  session().pressCancel();
+  host().state().account->userId = "USER";
+  openDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(otherChoices));
+}
+
+TEST_F(SettingsLoading, TakesAFileOfItsOwnWhenNobodyIsSignedIn) {
+  folder.write("Tintora__CmdSet.txt", onDisk(joinLines(otherLines)));
+  start();
+  host().state().account.reset();
+  openDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(otherChoices));
+}
+
+TEST_F(SettingsLoading, RaisesForAModuleWithoutEndingBeforeTheFilterIsSetUp) {
+  folder.renameModule("Tintora.addin");
+  start();
+  session().press("idAssetsMatMng");
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::out_of_range:")));
+  EXPECT_EQ(shown("idSelection"), "Select");
+  EXPECT_EQ(session().dialog().width, 425);
+}
+
+TEST_F(SettingsLoading, SetsTheInputsInThisOrder) {
+  writeSettings(otherLines);
+  start();
+  host().gate().startTrace();
+  openDialog();
+  std::vector<std::string> calls = callsWith(host().gate(), {"=(", "clear", "addSelectionFilter", "userId", "ByName"});
+  calls.erase(calls.begin(), std::find(calls.begin(), calls.end(), "User.userId()"));
+  const std::vector<std::string> filterSetUp = {"TextBoxCommandInput(idActAppearance).formattedText=(\"\")",
+                                                "TextBoxCommandInput(idActMaterial).formattedText=(\"\")",
+                                                "SelectionCommandInput(idSelection).clearSelection()",
+                                                "SelectionCommandInput(idSelection).clearSelectionFilter()",
+                                                "SelectionCommandInput(idSelection).addSelectionFilter(\"Faces\")",
+                                                "SelectionCommandInput(idSelection).commandPrompt=(\"Select Face\")"};
+  std::vector<std::string> expected = {"User.userId()", "ListItem(idFilterSelect: Face).isSelected=(true)"};
+  expected.insert(expected.end(), filterSetUp.begin(), filterSetUp.end());
+  const std::vector<std::string> restored = {"GroupCommandInput(idGroupAppearance).isExpanded=(false)",
+                                             "GroupCommandInput(idGroupAppearance).isEnabledCheckBoxChecked=(false)",
+                                             "ListItem(idLibAssets: Second).isSelected=(true)",
+                                             "MaterialLibraries.itemByName(\"Second\")",
+                                             "ListItems(idMaterialList).clear()",
+                                             "ListItem(idAppearanceList: RAL 9005 Jet black).isSelected=(true)",
+                                             "GroupCommandInput(idGroupMaterial).isExpanded=(false)",
+                                             "GroupCommandInput(idGroupMaterial).isEnabledCheckBoxChecked=(false)",
+                                             "ListItem(idLibMaterials: Stones).isSelected=(true)",
+                                             "MaterialLibraries.itemByName(\"Stones\")",
+                                             "ListItems(idMaterialList).clear()",
+                                             "ListItem(idMaterialList: Basalt).isSelected=(true)",
+                                             "ListItem(idMaterialList: Granite).isSelected=(true)"};
+  expected.insert(expected.end(), restored.begin(), restored.end());
+  expected.insert(expected.end(), filterSetUp.begin(), filterSetUp.end());
+  EXPECT_THAT(calls, ElementsAreArray(expected));
+}
+
+// --- files that are shorter than they should be ----------------------------------------------------------------------
+
+struct ShortFile {
+  std::size_t lines;
+  std::vector<std::string> choices;
+};
+
+class ShortSettingsFile : public SettingsTest, public ::testing::WithParamInterface<ShortFile> {};
+
+TEST_P(ShortSettingsFile, IsReadAsFarAsItGoes) {
+  writeSettings(
+      std::vector<std::string>(otherLines.begin(), otherLines.begin() + static_cast<std::ptrdiff_t>(GetParam().lines)));
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(GetParam().choices));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, ShortSettingsFile,
+    ::testing::Values(
+        ShortFile{0, defaultChoices},
+        ShortFile{1, {"Face", "1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
+        ShortFile{2, {"Face", "0", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
+        ShortFile{3, {"Face", "0", "1", "Second", "RAL 1000 Green beige", "1", "1", "Metals", "nothing found"}},
+        ShortFile{4, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "1", "1", "Metals", "nothing found"}},
+        ShortFile{5, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Metals", "nothing found"}},
+        ShortFile{6, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Basalt"}},
+        ShortFile{7, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
+        ShortFile{8, {"Face", "0", "0", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
+        ShortFile{9, otherChoices}),
+    [](const auto& info) { return std::to_string(info.param.lines); });
+
+// --- numbers ---------------------------------------------------------------------------------------------------------
+
+struct NumberText {
+  const char* description;
+  const char* text;
+  bool isTrue;
+};
+
+class SavedFlag : public SettingsTest, public ::testing::WithParamInterface<NumberText> {};
+
+TEST_P(SavedFlag, IsTrueForANumberOtherThanZero) {
+  std::vector<std::string> lines = defaultLines;
+  for (const std::size_t line : {1U, 4U, 7U, 8U}) {
+    lines[line] = GetParam().text;
+  }
+  writeSettings(lines);
+  startDialog();
+  for (const char* id : {"idGroupAppearance", "idGroupMaterial"}) {
+    EXPECT_EQ(session().input(id).isExpanded, GetParam().isTrue) << id;
+    EXPECT_EQ(session().input(id).isTicked, GetParam().isTrue) << id;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SavedFlag,
+                         ::testing::Values(NumberText{"One", "1", true}, NumberText{"Zero", "0", false},
+                                           NumberText{"Other", "42", true}, NumberText{"Negative", "-1", true},
+                                           NumberText{"Zeros", "000", false}, NumberText{"Plus", "+0", false},
+                                           NumberText{"WhiteSpace", " \t\v\f0", false},
+                                           NumberText{"StopsAtTheFirstOther", "0x1", false},
+                                           NumberText{"StopsAtABlank", "0 1", false}, NumberText{"Point", "0.9", false},
+                                           NumberText{"Largest", "2147483647", true},
+                                           NumberText{"Smallest", "-2147483648", true}),
+                         [](const auto& info) { return std::string(info.param.description); });
+
+class SavedIndex : public SettingsTest, public ::testing::WithParamInterface<NumberText> {};
+
+TEST_P(SavedIndex, RaisesAtOnceWhereNoButtonHasIt) {
+  std::vector<std::string> lines = otherLines;
+  lines[0] = GetParam().text;
+  writeSettings(lines);
+  start();
+  session().press("idAssetsMatMng");
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::exception:")));
+  EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
+  EXPECT_EQ(shown("idSelection"), "Select");
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SavedIndex,
+                         ::testing::Values(NumberText{"Three", "3", false}, NumberText{"Negative", "-1", false},
+                                           NumberText{"Largest", "2147483647", false}),
+                         [](const auto& info) { return std::string(info.param.description); });
+
+struct BadNumber {
+  const char* description;
+  const char* text;
+  const char* error;
+};
+
+constexpr const char* noNumber = "std::invalid_argument: invalid stoi argument";
+constexpr const char* outOfRange = "std::out_of_range: stoi argument out of range";
+
+class BadSavedNumber : public SettingsTest, public ::testing::WithParamInterface<BadNumber> {};
+
+TEST_P(BadSavedNumber, RaisesAndLeavesWhatWasRestoredBeforeIt) {
+  // The lines that hold numbers, and how many values are restored before each.
+  const std::vector<std::pair<std::size_t, std::size_t>> numberLines = {{0, 0}, {1, 1}, {7, 2}, {4, 5}, {8, 6}};
+  for (const auto& [line, steps] : numberLines) {
+    SCOPED_TRACE("line " + std::to_string(line + 1));
+    std::vector<std::string> lines = otherLines;
+    lines[line] = GetParam().text;
+    writeSettings(joinLines(lines) + "\n");
+    start();
+    session().press("idAssetsMatMng");
+    EXPECT_THAT(takeErrors(), ElementsAre(std::string("commandCreated(idAssetsMatMng): ") + GetParam().error));
+    EXPECT_THAT(choices(), ElementsAreArray(choicesAfter(steps)));
+    finish();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, BadSavedNumber,
+                         ::testing::Values(BadNumber{"Empty", "", noNumber}, BadNumber{"Word", "abc", noNumber},
+                                           BadNumber{"OnlyASign", "-", noNumber},
+                                           BadNumber{"TwoSigns", "+-1", noNumber},
+                                           BadNumber{"OnlyBlanks", "  ", noNumber}, BadNumber{"Point", ".5", noNumber},
+                                           BadNumber{"SignAndBlank", "- 1", noNumber},
+                                           BadNumber{"TooLarge", "2147483648", outOfRange},
+                                           BadNumber{"TooSmall", "-2147483649", outOfRange},
+                                           BadNumber{"TooLong", "99999999999999999999999", outOfRange}),
+                         [](const auto& info) { return std::string(info.param.description); });
+
+// --- names -----------------------------------------------------------------------------------------------------------
+
+struct SavedName {
+  const char* description;
+  std::size_t line;
+  const char* text;
+};
+
+class UnmatchedName : public SettingsTest, public ::testing::WithParamInterface<SavedName> {};
+
+TEST_P(UnmatchedName, LeavesItsListAsItIs) {
+  std::vector<std::string> lines = {"1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "Stones", "Basalt", "1", "1"};
+  std::vector<std::string> expected = {"Body", "1", "1",      "RAL_COLORS", "RAL 1000 Green beige",
+                                       "1",    "1", "Stones", "Basalt"};
+  lines[GetParam().line] = GetParam().text;
+  if (GetParam().line == 5) {
+    expected[7] = "Metals";
+    expected[8] = "nothing found";
+  }
+  writeSettings(lines);
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, UnmatchedName,
+                         ::testing::Values(SavedName{"AppearanceLibraryInLowerCase", 2, "second"},
+                                           SavedName{"AppearanceLibraryCut", 2, "Secon"},
+                                           SavedName{"AppearanceLibraryLonger", 2, "Second "},
+                                           SavedName{"AppearanceLibraryEmpty", 2, ""},
+                                           SavedName{"AppearanceInUpperCase", 3, "RAL 9005 JET BLACK"},
+                                           SavedName{"AppearanceOfAnotherLibrary", 3, "Oak tree"},
+                                           SavedName{"MaterialLibraryGone", 5, "Woods"},
+                                           SavedName{"MaterialLibraryInLowerCase", 5, "stones"},
+                                           SavedName{"MaterialGone", 6, "Marble"},
+                                           SavedName{"MaterialCut", 6, "Granit"}),
+                         [](const auto& info) { return std::string(info.param.description); });
+
+TEST_F(SettingsLoading, ListsTheMaterialsOfALibraryThatTheHostKnowsAndTheListDoesNot) {
+  start();
+  host().materials().add(headless::libraries::parseLibrary(materialLibrary("Elsewhere", {{"Ice"}, {"Snow"}}), "test"));
+  writeSettings({"1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "Elsewhere", "Snow", "1", "1"});
+  openDialog();
+  EXPECT_EQ(shown("idLibMaterials"), "Metals");
+  EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Ice", "Snow"));
+  EXPECT_EQ(shown("idMaterialList"), "Snow");
+}
+
+TEST_F(SettingsLoading, ListsTheMaterialsOfTheAppearanceLibraryWhereNoMaterialLibraryFollows) {
+  folder.writeLibraries(appearancesFolder,
+                        {appearanceLibrary("RAL_COLORS", ralNames), materialLibrary("Mixed", {{"Oak"}, {"Pine"}})});
+  writeSettings({"1", "1", "Mixed"});
+  startDialog();
+  EXPECT_EQ(shown("idLibAssets"), "Mixed");
+  EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Oak", "Pine"));
+  EXPECT_EQ(shown("idMaterialList"), "Oak");
+  EXPECT_THAT(itemsOf("idAppearanceList"), ElementsAreArray(ralNames));
+}
+
+TEST_F(SettingsLoading, FillsTheMaterialListWithoutTheRulesOfColours) {
+  folder.writeLibraries(materialsFolder,
+                        {materialLibrary("Metals", metals), materialLibrary("For RAL_COLORS", {{"Tin"}, {"Steel"}})});
+  writeSettings({"1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "For RAL_COLORS", "Steel", "1", "1"});
+  startDialog();
+  EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Tin", "Steel"));
+  EXPECT_EQ(shown("idMaterialList"), "Steel");
+}
+
+TEST_F(SettingsLoading, MatchesNamesByteForByte) {
+  folder.writeLibraries(materialsFolder, {materialLibrary("Metals", metals),
+                                          materialLibrary("Stoffe \xC3\xBC", {{"A"}, {"gr\xC3\xBCn "}})});
+  writeSettings({"1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "Stoffe \xC3\xBC", "gr\xC3\xBCn ", "1", "1"});
+  startDialog();
+  EXPECT_EQ(shown("idLibMaterials"), "Stoffe \xC3\xBC");
+  EXPECT_EQ(shown("idMaterialList"), "gr\xC3\xBCn ");
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,142 @@
+// Colours as other programs give them.
+#include "host/step/style_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "host/step/error.h"
+#include "host/step/reader.h"
+#include "tests/step/foreign_files.h"
+#include "tests/step/made_designs.h"
+
+namespace headless::step {
+namespace {
+
+class StyleReader : public ::testing::Test {
+ protected:
+  std::unique_ptr<model::Design> written() {
+    foreign.write(folder / "foreign.stp");
+    return read(folder / "foreign.stp");
+  }
+
+  /// The painted occurrences by full path.
+  static std::map<std::string, std::string> looks(const model::Design& design) {
+    std::map<std::string, std::string> found;
+    for (const model::Occurrence* occurrence : design.root().allOccurrences()) {
+      if (occurrence->appearance) {
+        found[occurrence->fullPathName()] = model::hexText(occurrence->appearance->colour);
+      }
+    }
+    return found;
+  }
+
+  static std::string bodyLooks(const model::Component& component) {
+    std::string text;
+    for (const auto& body : component.bodies) {
+      text += body->appearance ? model::hexText(body->appearance->colour) : "none";
+      text += " ";
+    }
+    return text;
+  }
+
+  TemporaryFolder folder;
+  ForeignFile foreign;
+};
+
+using Looks = std::map<std::string, std::string>;
+
+TEST_F(StyleReader, GivesAnInstancesColourToAllItsOccurrences) {
+  const auto part = foreign.addPart("Part", box(10));
+  const auto group = foreign.addAssembly("Group");
+  const auto root = foreign.addAssembly("Root");
+  foreign.paint(foreign.place(group, part, 20), "#FF0000");
+  foreign.place(group, part, 40);
+  foreign.place(root, group, 100);
+  foreign.place(root, group, 200);
+  EXPECT_EQ(looks(*written()), (Looks{{"Group:1+Part:1", "#FF0000"}, {"Group:2+Part:1", "#FF0000"}}));
+}
+
+TEST_F(StyleReader, GivesAPathsColourToOneOccurrence) {
+  const auto part = foreign.addPart("Part", box(10));
+  const auto group = foreign.addAssembly("Group");
+  const auto root = foreign.addAssembly("Root");
+  const auto inner = foreign.place(group, part, 20);
+  const auto first = foreign.place(root, group, 100);
+  const auto second = foreign.place(root, group, 200);
+  foreign.paintPath({second, inner}, "#00FF00");
+  foreign.paintPath({first, inner}, "#0000FF");
+  EXPECT_EQ(looks(*written()), (Looks{{"Group:1+Part:1", "#0000FF"}, {"Group:2+Part:1", "#00FF00"}}));
+}
+
+TEST_F(StyleReader, FollowsDeepPathsWhoseColourHangsOnTheUppermostLink) {
+  const auto part = foreign.addPart("Part", box(10));
+  const auto group = foreign.addAssembly("Group");
+  const auto unit = foreign.addAssembly("Unit");
+  const auto root = foreign.addAssembly("Root");
+  const auto inner = foreign.place(group, part, 20);
+  foreign.place(unit, group, 100);
+  const auto middle = foreign.place(unit, group, 200);
+  const auto outer = foreign.place(root, unit, 1000);
+  foreign.place(root, unit, 2000);
+  foreign.paintPath({outer, middle, inner}, "#FF8000");
+  EXPECT_EQ(looks(*written()), (Looks{{"Unit:1+Group:2+Part:1", "#FF8000"}}));
+}
+
+TEST_F(StyleReader, GivesAPartsColourToItsBodies) {
+  const auto part = foreign.addPart("Part", together({box(10), box(10, 50)}));
+  foreign.paint(part, "#ABCDEF");
+  EXPECT_EQ(bodyLooks(componentNamed(*written(), "Part")), "#ABCDEF #ABCDEF ");
+}
+
+TEST_F(StyleReader, PrefersABodysOwnColourToThePartsColour) {
+  const TopoDS_Shape second = box(10, 50);
+  const auto part = foreign.addPart("Part", together({box(10), second}));
+  foreign.paintPart(part, second, "#123456");
+  foreign.paint(part, "#ABCDEF");
+  EXPECT_EQ(bodyLooks(componentNamed(*written(), "Part")), "#ABCDEF #123456 ");
+}
+
+TEST_F(StyleReader, LeavesColoursOfCurvesOut) {
+  const auto part = foreign.addPart("Part", box(10));
+  foreign.paintCurves(part, "#FF0000");
+  EXPECT_EQ(bodyLooks(componentNamed(*written(), "Part")), "none ");
+}
+
+TEST_F(StyleReader, KnowsTransparency) {
+  const auto part = foreign.addPart("Part", box(10));
+  foreign.paint(part, "#FF000040");
+  EXPECT_EQ(bodyLooks(componentNamed(*written(), "Part")), "#FF000040 ");
+}
+
+TEST_F(StyleReader, FindsColoursInTheFilesThatAnAssemblyRefersTo) {
+  const auto part = foreign.addPart("Part", box(10));
+  const auto other = foreign.addPart("Other", box(20));
+  const auto root = foreign.addAssembly("Root");
+  foreign.place(root, part, 20);
+  foreign.place(root, other, 40);
+  foreign.place(root, part, 60);
+  foreign.paint(part, "#FF0000");
+  foreign.writeSplit(folder / "whole.stp");
+  ASSERT_TRUE(std::filesystem::exists(folder / "Part.stp"));
+  const auto design = read(folder / "whole.stp");
+  EXPECT_NO_THROW(occurrenceAt(*design, "Part:2"));
+  EXPECT_EQ(bodyLooks(componentNamed(*design, "Part")), "#FF0000 ");
+  EXPECT_EQ(bodyLooks(componentNamed(*design, "Other")), "none ");
+}
+
+TEST_F(StyleReader, NamesAFileThatAnAssemblyRefersToInVain) {
+  const auto root = foreign.addAssembly("Root");
+  foreign.place(root, foreign.addPart("Part", box(10)), 20);
+  foreign.writeSplit(folder / "whole.stp");
+  std::filesystem::remove(folder / "Part.stp");
+  try {
+    read(folder / "whole.stp");
+    FAIL() << "was read";
+  } catch (const Error& error) {
+    EXPECT_NE(std::string(error.what()).find("\"Part.stp\""), std::string::npos) << error.what();
+  }
+}
+
+}  // namespace
+}  // namespace headless::step
