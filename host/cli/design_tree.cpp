@@ -1,5 +1,6 @@
 #include "host/cli/design_tree.h"
 
+#include <algorithm>
 #include <map>
 #include <tuple>
 #include <unordered_map>
@@ -116,10 +117,9 @@ class TreeMaker {
   TreeNode occurrenceNode(const std::vector<Occurrence*>& alike) {
     Occurrence& first = *alike.front();
     const Component& component = first.component();
-    std::vector<int> counters;
-    for (const Occurrence* each : alike) {
-      counters.push_back(each->instance->counter);
-    }
+    std::vector<int> counters(alike.size());
+    std::transform(alike.begin(), alike.end(), counters.begin(),
+                   [](const Occurrence* each) { return each->instance->counter; });
     TreeNode node;
     node.label = component.name + ":" + rangesOf(counters) + times(alike.size());
     if (const Occurrence* carrier = lookCarrier(first)) {
@@ -147,10 +147,8 @@ class TreeMaker {
 
   TreeNode bodyNode(const std::vector<const Body*>& alike, const Occurrence* context) {
     const Body& first = *alike.front();
-    std::vector<std::string> names;
-    for (const Body* each : alike) {
-      names.push_back(each->name);
-    }
+    std::vector<std::string> names(alike.size());
+    std::transform(alike.begin(), alike.end(), names.begin(), [](const Body* each) { return each->name; });
     const model::Look look = lookOf(first, context);
     TreeNode node;
     node.label = listed(names, namedBodies) + times(alike.size());

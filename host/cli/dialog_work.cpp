@@ -159,7 +159,7 @@ std::vector<std::string> withOwnLook(const std::vector<Pickable>& objects) {
 
 std::vector<Pickable> pickInDialog(Sitting& sitting, const Picks& picks) {
   Session& session = sitting.session();
-  const std::vector<Pickable> objects = matching(session.design(), picks.kind, picks.patterns);
+  std::vector<Pickable> objects = matching(session.design(), picks.kind, picks.patterns);
   session.choose(ids::filterRow, static_cast<std::size_t>(picks.kind));
   session.clearPicks();
   session.pickAll(objects);

@@ -40,13 +40,13 @@ std::string hintAboutOtherKinds(const model::Design& design, PickKind kind, cons
 }
 
 std::string hintAboutPaths(const std::vector<Pickable>& objects, const std::string& pattern) {
-  std::vector<std::string> paths;
-  for (const Pickable& each : objects) {
-    paths.push_back(each.path);
-  }
-  const std::string near = paths.size() > comparablePaths ? "" : didYouMean(pattern, paths);
-  if (!near.empty()) {
-    return near;
+  std::vector<std::string> paths(objects.size());
+  std::transform(objects.begin(), objects.end(), paths.begin(), [](const Pickable& each) { return each.path; });
+  if (paths.size() <= comparablePaths) {
+    std::string near = didYouMean(pattern, paths);
+    if (!near.empty()) {
+      return near;
+    }
   }
   return paths.empty() ? "; there are none in this design" : "; there are " + listed(paths, shownPaths);
 }

@@ -191,20 +191,18 @@ model::Component* BuiltDesign::componentOf(const TDF_Label& product) const {
   return component != nullptr ? *component : nullptr;
 }
 
-std::vector<const model::Instance*> BuiltDesign::instancesAt(const model::Component& parent,
-                                                             const model::Component& child,
-                                                             const TopLoc_Location& place) const {
-  std::vector<const model::Instance*> found;
+const model::Instance* BuiltDesign::instanceAt(const model::Component& parent, const model::Component& child,
+                                               const TopLoc_Location& place) const {
   const auto candidates = instances.find(placeKey(parent, child, place));
   if (candidates == instances.end()) {
-    return found;
+    return nullptr;
   }
   for (const auto& candidate : candidates->second) {
     if (candidate.parent == &parent && candidate.instance->component == &child && candidate.place == place) {
-      found.push_back(candidate.instance);
+      return candidate.instance;
     }
   }
-  return found;
+  return nullptr;
 }
 
 std::vector<model::Body*> BuiltDesign::bodiesOf(const TopoDS_Shape& shape) const {

@@ -24,9 +24,9 @@ class BuiltDesign {
   /// The component of a product; nullptr when the product is not in the design.
   model::Component* componentOf(const TDF_Label& product) const;
 
-  /// The instances of `child` in `parent` at that place, in order; mostly one.
-  std::vector<const model::Instance*> instancesAt(const model::Component& parent, const model::Component& child,
-                                                  const TopLoc_Location& place) const;
+  /// The instance of `child` in `parent` at that place; nullptr when there is none.
+  const model::Instance* instanceAt(const model::Component& parent, const model::Component& child,
+                                    const TopLoc_Location& place) const;
 
   /// The bodies and faces with that geometry, at exactly that place if there are such, otherwise at any place.
   std::vector<model::Body*> bodiesOf(const TopoDS_Shape& shape) const;

@@ -77,7 +77,6 @@ class SessionStyles {
     if (!styles.LoadStyles()) {
       return;
     }
-    matchInstances();
     collectHigherUsages();
     readStyles(false);
     readStyles(true);
@@ -177,24 +176,12 @@ class SessionStyles {
     return usages;
   }
 
-  /// Which instance each usage became. All are looked at, as equal ones can only be told by their order.
-  void matchInstances() {
-    std::unordered_set<const model::Instance*> taken;
-    using NextUsage = StepRepr_NextAssemblyUsageOccurrence;
-    forEachEntity<NextUsage>(session, [&](const Handle(NextUsage) & usage) {
-      const TopoDS_Shape shape = shapeOf(session, usage);
-      const auto* parent = built.componentOf(file.labelOf(shapeOf(session, usage->RelatingProductDefinition())));
-      const auto* child = built.componentOf(file.labelOf(shape));
-      if (parent == nullptr || child == nullptr) {
-        return;
-      }
-      for (const model::Instance* instance : built.instancesAt(*parent, *child, shape.Location())) {
-        if (taken.insert(instance).second) {
-          instances.emplace(usage.get(), instance);
-          return;
-        }
-      }
-    });
+  /// Which instance a usage became; nullptr when it became none.
+  const model::Instance* instanceOf(const StepRepr_NextAssemblyUsageOccurrence& usage,
+                                    const TopoDS_Shape& shape) const {
+    const auto* parent = built.componentOf(file.labelOf(shapeOf(session, usage.RelatingProductDefinition())));
+    const auto* child = built.componentOf(file.labelOf(shape));
+    return parent != nullptr && child != nullptr ? built.instanceAt(*parent, *child, shape.Location()) : nullptr;
   }
 
   void collectHigherUsages() {
@@ -216,13 +203,13 @@ class SessionStyles {
     return known ? path : OccurrenceLooks::Path();
   }
 
-  bool append(OccurrenceLooks::Path& path, const Handle(Standard_Transient) & usage) const {
-    const auto instance = instances.find(usage.get());
-    if (instance == instances.end()) {
-      return false;
+  bool append(OccurrenceLooks::Path& path, const Handle(Standard_Transient) & entity) const {
+    const auto usage = Handle(StepRepr_NextAssemblyUsageOccurrence)::DownCast(entity);
+    const model::Instance* instance = usage.IsNull() ? nullptr : instanceOf(*usage, shapeOf(session, usage));
+    if (instance != nullptr) {
+      path.push_back(instance);
     }
-    path.push_back(instance->second);
-    return true;
+    return instance != nullptr;
   }
 
   bool appendChain(OccurrenceLooks::Path& path, const Handle(HigherUsage) & usage) const {
@@ -259,7 +246,6 @@ class SessionStyles {
   ColourAppearances& appearances;
   OccurrenceLooks& looks;
   STEPConstruct_Styles styles;
-  std::map<const Standard_Transient*, const model::Instance*> instances;
   std::map<const Standard_Transient*, Handle(HigherUsage)> below;
   std::unordered_set<const Standard_Transient*> styledUsages;
   std::vector<std::pair<TopoDS_Shape, AppearancePtr>> colouredShapes;

@@ -14,7 +14,7 @@ namespace headless::step {
 using Point = std::array<double, 3>;
 
 struct Triangle {
-  std::array<Point, 3> corners;
+  std::array<Point, 3> corners{};
   /// What the face really shows there.
   model::Colour colour;
   /// Tells the triangles of one face, as seen through one occurrence, from all others.

@@ -72,9 +72,9 @@ struct FilterCase {
   std::vector<bool> passes;
 };
 
-class SelectionFilter : public SelectionInputs, public testing::WithParamInterface<FilterCase> {};
+class SelectionInputFilter : public SelectionInputs, public testing::WithParamInterface<FilterCase> {};
 
-TEST_P(SelectionFilter, LetsThroughWhatItNames) {
+TEST_P(SelectionInputFilter, LetsThroughWhatItNames) {
   openWith(GetParam().filters);
   const auto occurrence = root()->allOccurrences()->item(0);
   const auto body = root()->bRepBodies()->item(0);
@@ -88,7 +88,7 @@ TEST_P(SelectionFilter, LetsThroughWhatItNames) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Documented, SelectionFilter,
+    Documented, SelectionInputFilter,
     testing::Values(FilterCase{"none", {}, {true, true, true, true, true}},
                     FilterCase{"occurrences", {"Occurrences"}, {true, false, false, false, false}},
                     FilterCase{"rootComponents", {"RootComponents"}, {false, false, false, true, false}},

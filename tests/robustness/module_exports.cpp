@@ -48,7 +48,7 @@ std::vector<std::string> exportedNames(const std::filesystem::path& module) {
 
 std::vector<std::string> exportedNames(const std::filesystem::path& module) {
   // Each line begins with a name.
-  const std::string command = "nm --dynamic --defined-only --format=posix '" + module.string() + "'";
+  const std::string command = "nm --dynamic --defined-only --format=posix '" + module.string() + "' 2>&1";
   std::FILE* const pipe = popen(command.c_str(), "r");
   if (pipe == nullptr) {
     throw std::runtime_error("cannot run " + command);

@@ -157,6 +157,14 @@ TEST_F(GlbWriter, SharesTrianglesAmongOccurrencesThatLookTheSame) {
   EXPECT_EQ(positions.size(), 3u);
 }
 
+TEST_F(GlbWriter, JoinsFacesOfOneColour) {
+  model::Design design("Box");
+  auto& body = addBox(design.root(), "Box");
+  EXPECT_EQ(written(design)["meshes"][0]["primitives"].size(), 1u);
+  body.faces[2]->appearance = colour("#FF0000");
+  EXPECT_EQ(written(design)["meshes"][0]["primitives"].size(), 2u);
+}
+
 TEST_F(GlbWriter, FollowsCurvesAsCloselyAsAsked) {
   WITH_STEP_FILE(path, "as1-tu-203.stp");
   const auto design = read(path);

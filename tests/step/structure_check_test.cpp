@@ -9,6 +9,7 @@
 #include "host/step/kernel_session.h"
 #include "host/step/reader.h"
 #include "host/step/writer.h"
+#include "tests/step/edited_file.h"
 #include "tests/step/made_designs.h"
 
 namespace headless::step {
@@ -55,6 +56,42 @@ TEST(StructureCheck, FindsProductsThatContainThemselves) {
     EXPECT_NE(message.find("product \"Level "), std::string::npos) << message;
     EXPECT_NE(message.find("\" contains itself"), std::string::npos) << message;
   }
+}
+
+/// A sound file of Root, which uses Middle, which uses Part; open for edits.
+EditedFile soundFile(const TemporaryFolder& folder) {
+  model::Design design("Root");
+  auto& middle = design.addComponent("Middle");
+  auto& part = design.addComponent("Part");
+  design.root().addInstance(middle);
+  middle.addInstance(part);
+  addBox(part, "Body");
+  write(design, folder / "sound.stp");
+  return EditedFile(folder / "sound.stp");
+}
+
+TEST(StructureCheck, FindsCirclesOfPlacements) {
+  const TemporaryFolder folder;
+  EditedFile edited = soundFile(folder);
+  const std::string root = edited.find("REPRESENTATION_RELATIONSHIP\\('','',#\\d+,(#\\d+)\\)", 0);
+  const std::string part = edited.find("REPRESENTATION_RELATIONSHIP\\('','',(#\\d+),#\\d+\\)", 1);
+  edited.replace("(REPRESENTATION_RELATIONSHIP\\('','',)" + part + ",", "$1" + root + ",");
+  edited.save(folder / "circle.stp");
+  const std::string message = messageOfReading(contentOf(folder / "circle.stp"));
+  EXPECT_NE(message.find("contains itself"), std::string::npos) << message;
+}
+
+TEST(StructureCheck, FindsCirclesOfMappedItems) {
+  const TemporaryFolder folder;
+  EditedFile edited = soundFile(folder);
+  const std::string shape = edited.find("(#\\d+) = ADVANCED_BREP_SHAPE_REPRESENTATION");
+  const std::string origin = edited.find("ADVANCED_BREP_SHAPE_REPRESENTATION\\('',\\((#\\d+)");
+  const std::string map = edited.add("REPRESENTATION_MAP(" + origin + "," + shape + ")");
+  const std::string item = edited.add("MAPPED_ITEM(''," + map + "," + origin + ")");
+  edited.replace("(ADVANCED_BREP_SHAPE_REPRESENTATION\\('',\\()", "$1" + item + ",");
+  edited.save(folder / "circle.stp");
+  const std::string message = messageOfReading(contentOf(folder / "circle.stp"));
+  EXPECT_NE(message.find("a representation contains itself"), std::string::npos) << message;
 }
 
 TEST(StructureCheck, RefusesBottomlessAssemblies) {

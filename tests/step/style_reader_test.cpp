@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <vector>
 
 #include "host/step/error.h"
 #include "host/step/reader.h"
+#include "host/step/writer.h"
+#include "tests/step/edited_file.h"
 #include "tests/step/foreign_files.h"
 #include "tests/step/made_designs.h"
 
@@ -14,7 +17,7 @@ namespace headless::step {
 namespace {
 
 class StyleReader : public ::testing::Test {
- protected:
+ public:
   std::unique_ptr<model::Design> written() {
     foreign.write(folder / "foreign.stp");
     return read(folder / "foreign.stp");
@@ -136,6 +139,75 @@ TEST_F(StyleReader, NamesAFileThatAnAssemblyRefersToInVain) {
   } catch (const Error& error) {
     EXPECT_NE(std::string(error.what()).find("\"Part.stp\""), std::string::npos) << error.what();
   }
+}
+
+/// A part with one red body and a green face, written and open for edits.
+class EditedStyles : public ::testing::Test {
+ protected:
+  EditedStyles() {
+    model::Design design("Root");
+    auto& part = design.addComponent("Part");
+    design.root().addInstance(part);
+    auto& body = addBox(part, "Body");
+    body.appearance = colour("#FF0000");
+    body.faces[0]->appearance = colour("#00FF00");
+    write(design, folder / "written.stp");
+    edited = std::make_unique<EditedFile>(folder / "written.stp");
+  }
+
+  std::string bodyColour() {
+    edited->save(folder / "edited.stp");
+    design = read(folder / "edited.stp");
+    return model::hexText(componentNamed(*design, "Part").bodies[0]->appearance->colour);
+  }
+
+  TemporaryFolder folder;
+  std::unique_ptr<EditedFile> edited;
+  std::unique_ptr<model::Design> design;
+};
+
+TEST_F(EditedStyles, WhatOverridesWinsWhereverItStands) {
+  const std::string solid = edited->find("(#\\d+) = MANIFOLD_SOLID_BREP");
+  const std::string base = edited->find("(#\\d+) = STYLED_ITEM");
+  const std::string overriding = edited->find("(#\\d+) = OVER_RIDING_STYLED_ITEM");
+  edited->replace("(OVER_RIDING_STYLED_ITEM\\('[^']*',\\(#\\d+\\)),#\\d+", "$1," + solid);
+  edited->replace("\\(" + base + "," + overriding + "\\)", "(" + overriding + "," + base + ")");
+  EXPECT_EQ(bodyColour(), "#00FF00");
+}
+
+TEST_F(EditedStyles, AShellsColourCountsMoreThanItsSolids) {
+  const std::string shell = edited->find("(#\\d+) = CLOSED_SHELL");
+  const std::string base = edited->find("(#\\d+) = STYLED_ITEM");
+  const std::string other = edited->find("(#\\d+) = OVER_RIDING_STYLED_ITEM");
+  edited->replace("OVER_RIDING_STYLED_ITEM\\('[^']*',(\\(#\\d+\\)),#\\d+,#\\d+\\)", "STYLED_ITEM('',$1," + shell + ")");
+  edited->replace("\\(" + base + "," + other + "\\)", "(" + other + "," + base + ")");
+  EXPECT_EQ(bodyColour(), "#00FF00");
+}
+
+TEST_F(EditedStyles, MappedBodiesHaveTheColoursOfTheirPlaces) {
+  const std::string shape = edited->find("(#\\d+) = ADVANCED_BREP_SHAPE_REPRESENTATION");
+  const std::string context = edited->find("ADVANCED_BREP_SHAPE_REPRESENTATION\\('',\\([^)]*\\),(#\\d+)\\)");
+  const std::string origin = edited->find("ADVANCED_BREP_SHAPE_REPRESENTATION\\('',\\((#\\d+)");
+  const std::string base = edited->find("(#\\d+) = STYLED_ITEM");
+  const std::string other = edited->find("(#\\d+) = OVER_RIDING_STYLED_ITEM");
+  const std::string map = edited->add("REPRESENTATION_MAP(" + origin + "," + shape + ")");
+  std::vector<std::string> items;
+  for (const char* x : {"100.", "200."}) {
+    const std::string point = edited->add("CARTESIAN_POINT('',(" + std::string(x) + ",0.,0.))");
+    items.push_back(
+        edited->add("MAPPED_ITEM(''," + map + "," + edited->add("AXIS2_PLACEMENT_3D(''," + point + ",$,$)") + ")"));
+  }
+  const std::string mapped =
+      edited->add("SHAPE_REPRESENTATION('',(" + origin + "," + items[0] + "," + items[1] + ")," + context + ")");
+  edited->replace("(SHAPE_DEFINITION_REPRESENTATION\\(#\\d+),(" + shape + ")\\)", "$1," + mapped + ")");
+  edited->replace("(SHAPE_REPRESENTATION_RELATIONSHIP.*|REPRESENTATION_RELATIONSHIP\\('','',)" + shape, "$1" + mapped);
+  edited->replace("(" + base + " = STYLED_ITEM\\('[^']*',\\(#\\d+\\)),#\\d+", "$1," + items[0]);
+  edited->replace("OVER_RIDING_STYLED_ITEM\\('[^']*',(\\(#\\d+\\)),#\\d+,#\\d+\\)",
+                  "STYLED_ITEM('',$1," + items[1] + ")");
+  EXPECT_EQ(bodyColour(), "#FF0000");
+  const model::Component& part = componentNamed(*design, "Part");
+  ASSERT_EQ(part.bodies.size(), 2u);
+  EXPECT_EQ(StyleReader::bodyLooks(part), "#FF0000 #00FF00 ");
 }
 
 }  // namespace

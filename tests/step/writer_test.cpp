@@ -99,6 +99,20 @@ TEST_F(Writer, KeepsLooksAboveAndBelowPaintedOccurrences) {
   expectUnchanged(*design);
 }
 
+TEST_F(Writer, DoesNotPaintOverBodiesWithALookOfTheirOwn) {
+  const auto overrides = [&](const std::shared_ptr<const model::Appearance>& own) {
+    const auto design = makeMachine();
+    auto& body = *componentNamed(*design, "Plate").bodies[0];
+    body.material = model::makeMaterial("Copper", 8960, colour("#B87333"));
+    body.appearance = own;
+    occurrenceAt(*design, "Frame:1+Plate:1").appearance = colour("#FF0000");
+    write(*design, file);
+    return contentOf(file).find("OVER_RIDING_STYLED_ITEM") != std::string::npos;
+  };
+  EXPECT_TRUE(overrides(nullptr)) << "the occurrence hides the material";
+  EXPECT_FALSE(overrides(colour("#00FF00"))) << "the body's own look shows";
+}
+
 TEST_F(Writer, ShowsLooksGivenInsideASubAssemblyWhereverItIsUsed) {
   const auto design = makeMachine();
   componentNamed(*design, "Joint").occurrences()[0]->appearance = colour("#00AA00");
