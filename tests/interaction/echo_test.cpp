@@ -1,0 +1,180 @@
+// Hosts that report the add-in's own changes back as if the user had made them: what the user did is not undone, and
+// events come to rest. That nothing is raised and that events come to rest is checked by the fixture.
+#include <functional>
+
+#include "tests/interaction/reactions.h"
+#include "tests/support/addin_fixture.h"
+
+namespace tests {
+namespace {
+
+using headless::Echo;
+using headless::Profile;
+using headless::Session;
+using ::testing::IsEmpty;
+
+/// Something that a user does in the dialog while the painted body "Base" is picked.
+struct UserAction {
+  const char* name;
+  void (*run)(Session&);
+  /// An echo that arrives later cannot be told from the user, so that this action ends otherwise.
+  bool isUndoneByLateEcho = false;
+};
+
+const std::vector<UserAction> userActions = {
+    {"ChooseFilter", [](Session& s) { s.choose("idFilterSelect", "Face"); }},
+    {"ChooseAppearanceLibrary", [](Session& s) { s.choose("idLibAssets", "More looks"); }},
+    {"ChooseMaterialLibrary", [](Session& s) { s.choose("idLibMaterials", "More materials"); }},
+    {"TypeAppearanceFilter", [](Session& s) { s.type("idFilterAppearance", "300"); }},
+    {"TypeMaterialFilter", [](Session& s) { s.type("idFilterMaterial", "steel"); }},
+    {"TypeFilterThatFindsNothing", [](Session& s) { s.type("idFilterMaterial", "no such material"); }},
+    {"CloseAppearanceGroup",
+     [](Session& s) {
+       s.type("idFilterAppearance", "300");
+       s.expand("idGroupAppearance", false);
+     }},
+    {"CloseMaterialGroup",
+     [](Session& s) {
+       s.type("idFilterMaterial", "steel");
+       s.expand("idGroupMaterial", false);
+     }},
+    {"CloseAndOpenAppearanceGroup",
+     [](Session& s) {
+       s.tick("idKeepAppearance", true);
+       s.expand("idGroupAppearance", false);
+       s.expand("idGroupAppearance", true);
+     }},
+    {"CloseAndOpenMaterialGroup",
+     [](Session& s) {
+       s.expand("idGroupMaterial", false);
+       s.expand("idGroupMaterial", true);
+     }},
+    {"TickCheckBox", [](Session& s) { s.tick("idKeepAppearance", true); }, true},
+    {"TickAndUntickCheckBox",
+     [](Session& s) {
+       s.tick("idKeepAppearance", true);
+       s.tick("idKeepAppearance", false);
+     },
+     true},
+    {"UntickHeaderBoxes",
+     [](Session& s) {
+       s.tick("idGroupAppearance", false);
+       s.tick("idGroupMaterial", false);
+     }},
+    {"LetGo", [](Session& s) { s.clearPicks(); }},
+    {"Apply", [](Session& s) { s.click("idBtnApply"); }},
+    {"Remove", [](Session& s) { s.click("idRemoveAssignAppearance"); }},
+};
+
+class EchoedAction : public AddInTest, public ::testing::WithParamInterface<UserAction> {
+ protected:
+  void SetUp() override {
+    addAppearanceLibrary("More.adsklib", "More looks", {"Gold", "Silver"});
+    addMaterialLibrary("More.adsklib", "More materials", {{"Brass"}});
+  }
+
+  /// What the user sees after the action in a host with such echoes. Each time the user comes to the add-in anew.
+  std::string screenAfterAction(Echo echo) {
+    folder.remove(settingsFile());
+    Profile profile;
+    profile.echo = echo;
+    start(profile);
+    body("Machine", "Base").appearance = look("Old paint");
+    openDialog();
+    session().choose("idLibMaterials", "Metals");
+    session().pick("Base");
+    GetParam().run(session());
+    const std::string seen = screenText(session().dialog()) + "own look: " + ownLook(body("Machine", "Base")) +
+                             ", material: " + body("Machine", "Base").material->name +
+                             ", steps: " + std::to_string(history().undoSteps().size());
+    EXPECT_THAT(host().gate().misuses(), IsEmpty());
+    finish();
+    return seen;
+  }
+};
+
+TEST_P(EchoedAction, EndsAsWithoutEchoWhenEchoesComeAtOnce) {
+  const std::string withoutEcho = screenAfterAction(Echo::None);
+  EXPECT_EQ(screenAfterAction(Echo::AtOnce), withoutEcho);
+}
+
+TEST_P(EchoedAction, ComesToRestWhenEchoesComeLater) {
+  const std::string withoutEcho = screenAfterAction(Echo::None);
+  const std::string withLateEcho = screenAfterAction(Echo::AfterEvent);
+  EXPECT_EQ(withLateEcho == withoutEcho, !GetParam().isUndoneByLateEcho);
+}
+
+INSTANTIATE_TEST_SUITE_P(Actions, EchoedAction, ::testing::ValuesIn(userActions),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+using EchoAtOnce = AddInTest;
+
+Profile withEchoAtOnce() {
+  Profile profile;
+  profile.echo = Echo::AtOnce;
+  return profile;
+}
+
+TEST_F(EchoAtOnce, DoesNotTakeTheUsersTickBack) {
+  startDialog(withEchoAtOnce());
+  session().tick("idKeepAppearance", true);
+  EXPECT_TRUE(session().input("idKeepAppearance").isTicked);
+  EXPECT_FALSE(session().input("idGroupAppearance").isTicked);
+}
+
+TEST_F(EchoAtOnce, IsIgnoredAfterOneLookAtItsInput) {
+  startDialog(withEchoAtOnce());
+  const Lines trace = traceOf(session(), [&] { session().tick("idKeepAppearance", true); });
+  // The box of the group is unticked: one echo, whose handling asks for the input and two ids and then ends.
+  EXPECT_EQ(containing("event inputChanged(idGroupAppearance)", trace).size(), 1U);
+  EXPECT_THAT(containing("GroupCommandInput(idGroupAppearance).isExpanded()", trace), IsEmpty());
+}
+
+/// Lets go of the selection in the middle of the add-in's reaction to the check box.
+class ClearsSelectionDuringEcho : public adsk::core::InputChangedEventHandler {
+ public:
+  explicit ClearsSelectionDuringEcho(Session& user) : session(user) {}
+  void notify(const adsk::core::Ptr<adsk::core::InputChangedEventArgs>& eventArgs) override {
+    if (eventArgs->input()->id() == "idGroupAppearance") {
+      session.clearPicks();
+    }
+  }
+
+ private:
+  Session& session;
+};
+
+TEST_F(EchoAtOnce, DoesNotHideAChangeOfTheSelectionDuringAReaction) {
+  start(withEchoAtOnce());
+  body("Machine", "Base").appearance = look("Old paint");
+  openDialog();
+  session().pick("Base");
+  ASSERT_NE(shown("idActAppearance"), "");
+  ClearsSelectionDuringEcho handler(session());
+  host().ui().runner().active()->inputChanged()->add(&handler);
+  session().tick("idKeepAppearance", true);
+  EXPECT_EQ(shown("idActAppearance"), "");
+  EXPECT_EQ(shown("idActMaterial"), "");
+  EXPECT_FALSE(isEnabled("idRemoveAssignAppearance"));
+  EXPECT_TRUE(session().input("idKeepAppearance").isTicked);
+}
+
+// An error leaves the reaction through its guard, too.
+TEST_F(EchoAtOnce, IsTakenForTheUserAgainAfterAReactionThatFailed) {
+  startDialog(withEchoAtOnce());
+  host().gate().setFault({1, headless::FaultAnswer::Exception, "ListItems.clear"});
+  session().tick("idKeepAppearance", true);
+  EXPECT_EQ(takeErrors().size(), 1U);
+  session().type("idFilterMaterial", "steel");
+  EXPECT_EQ(itemsOf("idMaterialList"), Lines{"Steel 37"});
+}
+
+TEST_F(EchoAtOnce, OfTheDialogsConstructionIsIgnored) {
+  startDialog(withEchoAtOnce());
+  EXPECT_EQ(shown("idActAppearance"), "");
+  EXPECT_FALSE(isEnabled("idBtnApply"));
+  EXPECT_TRUE(session().input("idGroupAppearance").isTicked);
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,250 @@
+// Hosts that behave otherwise than documented, one habit at a time and all together: nothing is raised, nothing that is
+// gone is used, and the user gets the same result as in the documented host, as far as that host allows it.
+#include <functional>
+
+#include "tests/interaction/reactions.h"
+#include "tests/support/addin_fixture.h"
+
+namespace tests {
+namespace {
+
+using namespace headless;
+using adsk::core::DialogYes;
+using ::testing::IsEmpty;
+
+constexpr const char* red = "RAL 3000 Flame red";
+
+struct Surprise {
+  const char* name;
+  std::function<void(Profile&)> applyTo;
+};
+
+const std::vector<Surprise> surprises = {
+    {"Documented", [](Profile&) {}},
+    {"SelectionClearedAtOnce", [](Profile& p) { p.editClearsSelection = EditClearsSelection::AtOnce; }},
+    {"SelectionNeverCleared", [](Profile& p) { p.editClearsSelection = EditClearsSelection::Never; }},
+    {"EchoAtOnce", [](Profile& p) { p.echo = Echo::AtOnce; }},
+    {"EchoAfterEvent", [](Profile& p) { p.echo = Echo::AfterEvent; }},
+    {"FreshWrappers", [](Profile& p) { p.freshWrappers = true; }},
+    {"AppearanceCopied", [](Profile& p) { p.libraryAppearance = LibraryAppearance::Copied; }},
+    {"ClickTwice", [](Profile& p) { p.clickRaisesTwoEvents = true; }},
+    {"GroupInputs", [](Profile& p) { p.eventGivesGroupInputs = true; }},
+    {"ExecuteClearsSelection", [](Profile& p) { p.executeClearsSelection = true; }},
+    {"ExecuteEndsCommand", [](Profile& p) { p.executeInDialog = ExecuteInDialog::EndsCommand; }},
+    {"ClearSelectionReported", [](Profile& p) { p.clearSelectionReported = true; }},
+    {"HiddenTickIgnored", [](Profile& p) { p.hiddenTickIgnored = true; }},
+    {"TickExpandsGroup", [](Profile& p) { p.tickExpandsGroup = true; }},
+    {"PreselectionUsed", [](Profile& p) { p.preselectionUsed = true; }},
+    {"CancelledChangesKept", [](Profile& p) { p.cancelledChanges = CancelledChanges::Kept; }},
+    {"SelectionClearedAtOnceAndEcho",
+     [](Profile& p) {
+       p.editClearsSelection = EditClearsSelection::AtOnce;
+       p.echo = Echo::AtOnce;
+     }},
+    {"AllTogether", [](Profile& p) { p = hostileProfile(); }},
+    {"AllTogetherButTheCommandStays",
+     [](Profile& p) {
+       p = hostileProfile();
+       p.executeInDialog = ExecuteInDialog::StaysOpen;
+     }},
+};
+
+/// Everything is painted below "Bolt:2"; "Base" is plain.
+class Surprising : public AddInTest {
+ protected:
+  void openPainted(const Profile& profile) {
+    start(profile);
+    occurrence("Bolt:2").appearance = look("Bolt paint");
+    body("Bolt", "Shank").appearance = look("Shank paint");
+    headFace().appearance = look("Head paint");
+    openDialog();
+    session().choose("idAppearanceList", red);
+    session().choose("idMaterialList", "Foam");
+    session().answerAlways(DialogYes);
+  }
+
+  /// Own looks and materials, one object a line.
+  Lines design() {
+    headless::model::Design& opened = AddInTest::design();
+    Lines objects;
+    for (const headless::model::Occurrence* each : opened.root().allOccurrences()) {
+      objects.push_back(each->fullPathName() + ": " + ownLook(*each));
+    }
+    for (const auto& component : opened.components) {
+      for (const auto& each : component->bodies) {
+        objects.push_back(each->name + ": " + ownLook(*each) + ", " + each->material->name);
+        for (const auto& face : each->faces) {
+          objects.push_back(each->name + " face: " + ownLook(*face));
+        }
+      }
+    }
+    return objects;
+  }
+
+  headless::model::Face& headFace() { return *body("Bolt", "Head").faces[0]; }
+
+  void expectCleanEnd() {
+    EXPECT_THAT(host().gate().misuses(), IsEmpty());
+    EXPECT_EQ(history().undoSteps().size(), 1U);
+    EXPECT_FALSE(history().hasPendingChanges());
+    EXPECT_TRUE(session().isDialogOpen());
+    EXPECT_FALSE(isEnabled("idBtnApply"));
+    EXPECT_FALSE(isEnabled("idRemoveAssignAppearance"));
+  }
+};
+
+/// What a user does with the dialog open.
+struct Task {
+  const char* name;
+  void (*run)(Session&);
+};
+
+const std::vector<Task> tasks = {
+    {"PaintBody",
+     [](Session& s) {
+       s.pick("Base");
+       s.click("idBtnApply");
+     }},
+    {"PaintOccurrence",
+     [](Session& s) {
+       pickAll(s, "Component", {"Bolt:2"});
+       s.click("idBtnApply");
+     }},
+    {"PaintOccurrenceOnly",
+     [](Session& s) {
+       assignAppearancesOnly(s);
+       pickAll(s, "Component", {"Bolt:2"});
+       s.click("idBtnApply");
+     }},
+    {"PaintTwoFaces",
+     [](Session& s) {
+       pickAll(s, "Face", {"Base/Face1", "Bolt:2/Head/Face1"});
+       s.click("idBtnApply");
+     }},
+    {"GiveMaterialToOccurrences",
+     [](Session& s) {
+       assignMaterialsOnly(s);
+       pickAll(s, "Component", {"Frame:1", "Bolt:2"});
+       s.click("idBtnApply");
+     }},
+    {"GiveMaterialToRoot",
+     [](Session& s) {
+       assignMaterialsOnly(s);
+       pickComponent(s, s.design().root());
+       s.click("idBtnApply");
+     }},
+    {"RemoveFromOccurrence",
+     [](Session& s) {
+       pickAll(s, "Component", {"Bolt:2"});
+       s.click("idRemoveAssignAppearance");
+     }},
+    {"RemoveFromBodies",
+     [](Session& s) {
+       pickAll(s, "Body", {"Bolt:2/Shank", "Bolt:2/Head"});
+       s.click("idRemoveAssignAppearance");
+     }},
+};
+
+class SurprisingHost : public Surprising, public ::testing::WithParamInterface<std::tuple<Surprise, Task>> {};
+
+TEST_P(SurprisingHost, GivesTheUserTheSameResult) {
+  const auto& [surprise, task] = GetParam();
+  openPainted(documentedProfile());
+  const Lines before = design();
+  task.run(session());
+  const Lines expected = design();
+  expectCleanEnd();
+  ASSERT_NE(expected, before);
+  finish();
+
+  folder.remove(settingsFile());
+  Profile profile;
+  surprise.applyTo(profile);
+  openPainted(profile);
+  task.run(session());
+  EXPECT_EQ(design(), expected);
+  if (profile.editClearsSelection != EditClearsSelection::Never) {
+    expectCleanEnd();
+  }
+  session().undo();
+  EXPECT_EQ(design(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, SurprisingHost,
+                         ::testing::Combine(::testing::ValuesIn(surprises), ::testing::ValuesIn(tasks)),
+                         [](const auto& info) {
+                           return std::string(std::get<0>(info.param).name) + "_" + std::get<1>(info.param).name;
+                         });
+
+using LimitedHost = Surprising;
+
+TEST_F(LimitedHost, ThatRefusesLibraryAppearancesStillAssignsMaterialsAndPutsLooksBack) {
+  Profile profile;
+  profile.libraryAppearance = LibraryAppearance::Refused;
+  openPainted(profile);
+  pickAll(session(), "Component", {"Bolt:2"});
+  session().click("idBtnApply");
+  EXPECT_EQ(ownLook(occurrence("Bolt:2")), "Bolt paint");
+  EXPECT_EQ(ownLook(body("Bolt", "Shank")), "Shank paint");
+  EXPECT_EQ(body("Bolt", "Shank").material->name, "Foam");
+  expectCleanEnd();
+}
+
+TEST_F(LimitedHost, ThatRefusesLibraryAppearancesLeavesAPlainBodyPlain) {
+  Profile profile;
+  profile.libraryAppearance = LibraryAppearance::Refused;
+  openPainted(profile);
+  session().pick("Base");
+  session().click("idBtnApply");
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "");
+  EXPECT_EQ(body("Machine", "Base").material->name, "Foam");
+  expectCleanEnd();
+}
+
+// Own looks of bodies and faces cannot be told from others there, so they are neither recorded nor asked about.
+TEST_F(LimitedHost, ThatReportsOwnLooksAsOverridesKeepsOnlyThoseOfOccurrences) {
+  Profile profile;
+  profile.ownAppearanceIsOverride = true;
+  openPainted(profile);
+  pickAll(session(), "Component", {"Bolt:2"});
+  session().click("idBtnApply");
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+  EXPECT_EQ(ownLook(occurrence("Bolt:2")), "Bolt paint");
+  EXPECT_EQ(ownLook(body("Bolt", "Shank")), "");
+  EXPECT_EQ(ownLook(headFace()), "Head paint");
+  expectCleanEnd();
+}
+
+TEST_F(LimitedHost, ThatReportsOwnLooksAsOverridesStillHasThemRemoved) {
+  Profile profile;
+  profile.ownAppearanceIsOverride = true;
+  openPainted(profile);
+  pickAll(session(), "Component", {"Bolt:2"});
+  ASSERT_TRUE(isEnabled("idRemoveAssignAppearance"));
+  session().click("idRemoveAssignAppearance");
+  EXPECT_EQ(ownLook(occurrence("Bolt:2")), "");
+  EXPECT_EQ(ownLook(body("Bolt", "Shank")), "");
+  EXPECT_EQ(ownLook(headFace()), "");
+  expectCleanEnd();
+}
+
+// Nothing tells the second event of a click from a second click, so a picked body is painted once more.
+TEST_F(LimitedHost, ThatReportsAClickTwiceAndKeepsTheSelectionAppliesTwiceToTheSameResult) {
+  Profile profile;
+  profile.clickRaisesTwoEvents = true;
+  profile.editClearsSelection = EditClearsSelection::Never;
+  openPainted(profile);
+  session().pick("Base");
+  session().click("idBtnApply");
+  EXPECT_EQ(ownLook(body("Machine", "Base")), red);
+  EXPECT_EQ(body("Machine", "Base").material->name, "Foam");
+  EXPECT_FALSE(isEnabled("idBtnApply"));
+  while (!history().undoSteps().empty()) {
+    session().undo();
+  }
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "");
+  EXPECT_EQ(body("Machine", "Base").material->name, "Steel");
+}
+
+}  // namespace
+}  // namespace tests
