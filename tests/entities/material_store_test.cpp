@@ -8,6 +8,7 @@
 
 #include "host/entities/material_objects.h"
 #include "tests/print_handles.h"
+#include "tests/support/temporary_folder.h"
 
 namespace headless {
 namespace {
@@ -21,16 +22,12 @@ using adsk::core::Ptr;
 struct MaterialStoreTest : testing::Test {
   Profile profile;
   CallGate gate;
-  fs::path folder = fs::path(testing::TempDir()) / "tintora_material_store_test";
+  tests::TemporaryFolder temporary;
+  const fs::path& folder = temporary.path();
   std::unique_ptr<MaterialStore> store;
   Ptr<MaterialLibraries> libraries;
 
-  void SetUp() override {
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    open();
-  }
-  void TearDown() override { fs::remove_all(folder); }
+  void SetUp() override { open(); }
 
   void open() {
     store = std::make_unique<MaterialStore>(profile);

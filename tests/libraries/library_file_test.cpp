@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/support/temporary_folder.h"
+
 namespace headless::libraries {
 namespace {
 
@@ -179,13 +181,8 @@ TEST(LibraryFile, SurvivesAnyNesting) {
 }
 
 struct LibraryOnDisk : testing::Test {
-  fs::path folder = fs::path(testing::TempDir()) / "tintora_library_file_test";
-
-  void SetUp() override {
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-  }
-  void TearDown() override { fs::remove_all(folder); }
+  tests::TemporaryFolder temporary;
+  const fs::path& folder = temporary.path();
 
   std::string problemOf(const fs::path& file) const {
     try {

@@ -1,40 +1,16 @@
 #include "tests/support/addin_folder.h"
 
 #include <fstream>
-#include <random>
-#include <sstream>
 #include <stdexcept>
 
 namespace tests {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-fs::path makeUniqueFolder() {
-  std::random_device seed;
-  for (int attempt = 0; attempt < 100; ++attempt) {
-    std::ostringstream name;
-    name << "tintora-test-" << std::hex << seed();
-    const fs::path folder = fs::temp_directory_path() / name.str();
-    if (fs::create_directory(folder)) {
-      return folder;
-    }
-  }
-  throw std::runtime_error("no folder can be made in " + fs::temp_directory_path().string());
-}
-
-}  // namespace
-
 AddInFolder::AddInFolder(const std::string& name)
-    : parent(makeUniqueFolder()), folder(parent / fs::u8path(name)), moduleFile(folder / "Tintora.dll") {
+    : folder(parent.path() / fs::u8path(name)), moduleFile(folder / "Tintora.dll") {
   fs::create_directories(folder);
   fs::copy_file(TINTORA_MODULE, moduleFile);
-}
-
-AddInFolder::~AddInFolder() {
-  std::error_code ignored;
-  fs::remove_all(parent, ignored);
 }
 
 void AddInFolder::renameModule(const std::string& fileName) {

@@ -4,7 +4,9 @@
 
 #include <filesystem>
 #include <string>
+
 #include <vector>
+#include "tests/support/temporary_folder.h"
 
 namespace tests {
 
@@ -12,9 +14,6 @@ class AddInFolder {
  public:
   /// Makes an empty folder with the module in it. `name` is the folder's own name.
   explicit AddInFolder(const std::string& name = "Tintora");
-  AddInFolder(const AddInFolder&) = delete;
-  AddInFolder& operator=(const AddInFolder&) = delete;
-  ~AddInFolder();
 
   const std::filesystem::path& path() const { return folder; }
   /// The module file, named Tintora.dll unless it was renamed.
@@ -38,7 +37,7 @@ class AddInFolder {
   void addColourIcon(const std::string& key) const;
 
  private:
-  std::filesystem::path parent;
+  TemporaryFolder parent;
   std::filesystem::path folder;
   std::filesystem::path moduleFile;
 };

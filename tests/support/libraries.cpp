@@ -48,9 +48,9 @@ std::string materialLibrary(const std::string& name, const std::vector<TestMater
     Json entry = {{"name", material.name}, {"appearance", look}};
     // Written as a plain property, since a density that makes no sense is refused as "density".
     if (!material.densityText.empty()) {
-      entry["properties"] = {densityProperty(material.densityText)};
+      entry["properties"] = Json::array({densityProperty(material.densityText)});
     } else if (material.hasDensity) {
-      entry["properties"] = {densityProperty(material.density)};
+      entry["properties"] = Json::array({densityProperty(material.density)});
     }
     library["materials"].push_back(entry);
   }
