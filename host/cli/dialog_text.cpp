@@ -160,7 +160,7 @@ class DialogPainter {
 
   void drawTextBox(const InputView& input, std::size_t indent, const std::string& mark) {
     bool isFirst = true;
-    for (const std::string& line : wrapped(input.text, frame.columns() - labelColumns - indent)) {
+    for (const std::string& line : wrapped(input.text, frame.columns() - labelColumns)) {
       labelled(isFirst ? input : InputView(), indent, line + (isFirst ? mark : ""));
       isFirst = false;
     }

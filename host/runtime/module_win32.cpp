@@ -32,11 +32,17 @@ Module::Module(const std::filesystem::path& file) {
   handle = module;
 }
 
-Module::~Module() { FreeLibrary(static_cast<HMODULE>(handle)); }
+Module::~Module() {
+  FreeLibrary(static_cast<HMODULE>(handle));
+}
 
-bool Module::run(const std::string& context) const { return runEntry(context.c_str()); }
+bool Module::run(const std::string& context) const {
+  return runEntry(context.c_str());
+}
 
-bool Module::stop(const std::string& context) const { return stopEntry == nullptr || stopEntry(context.c_str()); }
+bool Module::stop(const std::string& context) const {
+  return stopEntry == nullptr || stopEntry(context.c_str());
+}
 
 bool Module::isResident(const std::filesystem::path& file) {
   HMODULE found = nullptr;

@@ -4,9 +4,6 @@
 
 namespace headless {
 
-using adsk::core::Base;
-using adsk::core::Ptr;
-
 namespace {
 
 // What the host tells the entry points.

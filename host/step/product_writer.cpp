@@ -53,7 +53,7 @@ class PartsOnly {
 /// The origin that the kernel puts into every representation.
 Handle(StepGeom_Axis2Placement3d) originOf(const StepShape_ShapeRepresentation& representation) {
   for (int i = 1; i <= representation.NbItems(); ++i) {
-    const auto axes = Handle(StepGeom_Axis2Placement3d)::DownCast(representation.ItemsValue(i));
+    auto axes = Handle(StepGeom_Axis2Placement3d)::DownCast(representation.ItemsValue(i));
     if (!axes.IsNull()) {
       return axes;
     }

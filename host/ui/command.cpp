@@ -26,13 +26,13 @@ std::vector<SelectionInput*> selectionInputs(const InputCollection& collection) 
 
 }  // namespace
 
-CommandObject::CommandObject(Ptr<DefinitionObject> madeFrom, const Profile& hostProfile, CommandListener& runner)
+CommandObject::CommandObject(const Ptr<DefinitionObject>& madeFrom, const Profile& hostProfile, CommandListener& runner)
     : executeEvent(makeObject<CommandEventObject>("execute", this)),
       inputChangedEvent(makeObject<InputChangedEventObject>("inputChanged", this)),
       activateEvent(makeObject<CommandEventObject>("activate", this)),
       deactivateEvent(makeObject<CommandEventObject>("deactivate", this)),
       destroyEvent(makeObject<CommandEventObject>("destroy", this)),
-      definition_(std::move(madeFrom)),
+      definition_(madeFrom),
       profile(hostProfile),
       listener(runner),
       inputs_(makeObject<InputCollection>(*this, nullptr)) {}

@@ -49,7 +49,7 @@ struct CommandOptions {
 /// One command. After its end it and its inputs answer with nothing.
 class CommandObject final : public HostObject<adsk::core::Command>, public InputOwner {
  public:
-  CommandObject(adsk::core::Ptr<DefinitionObject> madeFrom, const Profile& hostProfile, CommandListener& runner);
+  CommandObject(const adsk::core::Ptr<DefinitionObject>& madeFrom, const Profile& hostProfile, CommandListener& runner);
   ~CommandObject() override;
 
   adsk::core::Ptr<adsk::core::CommandInputs> commandInputs() const override;
@@ -121,8 +121,9 @@ class CommandObject final : public HostObject<adsk::core::Command>, public Input
 /// What handlers of the created, command, input-changed and application-wide events are given.
 class CreatedArguments final : public HostObject<adsk::core::CommandCreatedEventArgs> {
  public:
-  CreatedArguments(adsk::core::Ptr<adsk::core::Event> firing, adsk::core::Ptr<adsk::core::Command> created)
-      : event(std::move(firing)), command_(std::move(created)) {}
+  CreatedArguments(const adsk::core::Ptr<adsk::core::Event>& firing,
+                   const adsk::core::Ptr<adsk::core::Command>& created)
+      : event(firing), command_(created) {}
   adsk::core::Ptr<adsk::core::Event> firingEvent() const override;
   adsk::core::Ptr<adsk::core::Command> command() const override;
 
@@ -133,9 +134,10 @@ class CreatedArguments final : public HostObject<adsk::core::CommandCreatedEvent
 
 class CommandArguments final : public HostObject<adsk::core::CommandEventArgs> {
  public:
-  CommandArguments(adsk::core::Ptr<adsk::core::Event> firing, adsk::core::Ptr<adsk::core::Command> ofCommand,
+  CommandArguments(const adsk::core::Ptr<adsk::core::Event>& firing,
+                   const adsk::core::Ptr<adsk::core::Command>& ofCommand,
                    adsk::core::CommandTerminationReason endReason)
-      : event(std::move(firing)), command_(std::move(ofCommand)), reason(endReason) {}
+      : event(firing), command_(ofCommand), reason(endReason) {}
   adsk::core::Ptr<adsk::core::Event> firingEvent() const override;
   adsk::core::Ptr<adsk::core::Command> command() const override;
   bool executeFailed() const override;
@@ -156,9 +158,10 @@ class CommandArguments final : public HostObject<adsk::core::CommandEventArgs> {
 
 class InputChangedArguments final : public HostObject<adsk::core::InputChangedEventArgs> {
  public:
-  InputChangedArguments(adsk::core::Ptr<adsk::core::Event> firing, adsk::core::Ptr<adsk::core::CommandInput> changed,
-                        adsk::core::Ptr<adsk::core::CommandInputs> collection)
-      : event(std::move(firing)), input_(std::move(changed)), inputs_(std::move(collection)) {}
+  InputChangedArguments(const adsk::core::Ptr<adsk::core::Event>& firing,
+                        const adsk::core::Ptr<adsk::core::CommandInput>& changed,
+                        const adsk::core::Ptr<adsk::core::CommandInputs>& collection)
+      : event(firing), input_(changed), inputs_(collection) {}
   adsk::core::Ptr<adsk::core::Event> firingEvent() const override;
   adsk::core::Ptr<adsk::core::CommandInput> input() const override;
   adsk::core::Ptr<adsk::core::CommandInputs> inputs() const override;
@@ -171,12 +174,10 @@ class InputChangedArguments final : public HostObject<adsk::core::InputChangedEv
 
 class ApplicationArguments final : public HostObject<adsk::core::ApplicationCommandEventArgs> {
  public:
-  ApplicationArguments(adsk::core::Ptr<adsk::core::Event> firing, adsk::core::Ptr<DefinitionObject> ofDefinition,
+  ApplicationArguments(const adsk::core::Ptr<adsk::core::Event>& firing,
+                       const adsk::core::Ptr<DefinitionObject>& ofDefinition,
                        adsk::core::CommandTerminationReason endReason)
-      : event(std::move(firing)),
-        definition(std::move(ofDefinition)),
-        commandId_(definition->texts().id),
-        reason(endReason) {}
+      : event(firing), definition(ofDefinition), commandId_(definition->texts().id), reason(endReason) {}
   adsk::core::Ptr<adsk::core::Event> firingEvent() const override;
   std::string commandId() const override;
   adsk::core::Ptr<adsk::core::CommandDefinition> commandDefinition() const override;

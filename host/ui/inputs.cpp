@@ -6,8 +6,6 @@
 
 namespace headless {
 
-using adsk::core::Base;
-using adsk::core::CommandInput;
 using adsk::core::ListItem;
 using adsk::core::ListItems;
 using adsk::core::Ptr;

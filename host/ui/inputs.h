@@ -214,7 +214,7 @@ class GroupInput final : public Input<adsk::core::GroupCommandInput> {
 /// One picked entity.
 class SelectionObject final : public HostObject<adsk::core::Selection> {
  public:
-  explicit SelectionObject(adsk::core::Ptr<adsk::core::Base> picked) : entity_(std::move(picked)) {}
+  explicit SelectionObject(const adsk::core::Ptr<adsk::core::Base>& picked) : entity_(picked) {}
   adsk::core::Ptr<adsk::core::Base> entity() const override {
     return call("entity", [this] { return entity_; });
   }

@@ -38,8 +38,8 @@ std::size_t positionFor(std::size_t named, bool isNamed, bool isBefore, std::siz
 
 }  // namespace
 
-ControlObject::ControlObject(PanelObject& owner, Ptr<DefinitionObject> shown)
-    : panel(owner), definition_(std::move(shown)), id_(definition_->texts().id) {}
+ControlObject::ControlObject(PanelObject& owner, const Ptr<DefinitionObject>& shown)
+    : panel(owner), definition_(shown), id_(definition_->texts().id) {}
 
 std::string ControlObject::id() const {
   return call("id", [this] { return id_; });

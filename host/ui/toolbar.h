@@ -20,7 +20,7 @@ class WorkspaceObject;
 /// A button on a panel. Dead once its definition was deleted.
 class ControlObject final : public HostObject<adsk::core::CommandControl> {
  public:
-  ControlObject(PanelObject& owner, adsk::core::Ptr<DefinitionObject> shown);
+  ControlObject(PanelObject& owner, const adsk::core::Ptr<DefinitionObject>& shown);
 
   std::string id() const override;
   size_t index() const override;

@@ -47,9 +47,9 @@ struct Entry {
   bool isListed;
 };
 
-class LibraryFile : public Libraries, public ::testing::WithParamInterface<Entry> {};
+class LibraryFileName : public Libraries, public ::testing::WithParamInterface<Entry> {};
 
-TEST_P(LibraryFile, IsRecognisedByItsName) {
+TEST_P(LibraryFileName, DecidesWhetherTheHostGetsTheFile) {
   addMaterialLibrary(GetParam().fileName, "Found", {{"Brass"}});
   build();
   EXPECT_THAT(loadsOf(materialsFolder / GetParam().fileName), SizeIs(GetParam().isGivenToHost ? 1 : 0));
@@ -58,7 +58,7 @@ TEST_P(LibraryFile, IsRecognisedByItsName) {
   EXPECT_THAT(libraries, Contains("Metals"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, LibraryFile,
+INSTANTIATE_TEST_SUITE_P(Names, LibraryFileName,
                          ::testing::Values(Entry{"Usual", "Brass.adsklib", true, true},
                                            Entry{"WithBlanks", "Brass and more.adsklib", true, true},
                                            Entry{"Twice", "Brass.adsklib.adsklib", true, true},

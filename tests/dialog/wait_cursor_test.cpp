@@ -40,7 +40,10 @@ INSTANTIATE_UNDER_ALL_PROFILES(WaitCursorUnderProfile);
 class WaitCursorDuring : public WaitCursor, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(WaitCursorDuring, IsShownFromTheFirstCallToTheLast) {
-  start();
+  // A command without inputs is executed at once; being started again would build a dialog after all.
+  headless::Profile profile = headless::documentedProfile();
+  profile.executeFromTerminated = headless::ExecuteFromTerminated::Refused;
+  start(profile);
   expectCursor(CursorShape::Arrow, 0);
   failAt(GetParam());
   expectCursor(CursorShape::Wait, 1);

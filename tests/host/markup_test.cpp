@@ -25,11 +25,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(MarkupCase{"", ""}, MarkupCase{"plain", "plain"}, MarkupCase{"<b>bold</b>", "bold"},
                     MarkupCase{"<b>never closed", "never closed"}, MarkupCase{"kg.m<sup>-3</sup>", "kg.m-3"},
                     MarkupCase{"one<br />two<br>three<br/>four", "one\ntwo\nthree\nfour"},
-                    MarkupCase{"<a href=\"x>y\">link</a>", "y\">link"},
-                    MarkupCase{"<div align=\"center\">a</div>", "a"}, MarkupCase{"a < b", "a < b"},
-                    MarkupCase{"a <", "a <"}, MarkupCase{"a <b", "a <b"}, MarkupCase{"1<2>3", "1<2>3"},
-                    MarkupCase{"a > b", "a > b"}, MarkupCase{"<b><i>both</i></b>", "both"},
-                    MarkupCase{"gr\xC3\xBCn", "gr\xC3\xBCn"}));
+                    MarkupCase{"<a href=\"page\">link</a>", "link"}, MarkupCase{"<div align=\"center\">a</div>", "a"},
+                    MarkupCase{"a < b", "a < b"}, MarkupCase{"a <", "a <"}, MarkupCase{"a <b", "a <b"},
+                    MarkupCase{"1<2>3", "1<2>3"}, MarkupCase{"a > b", "a > b"},
+                    MarkupCase{"<b><i>both</i></b>", "both"}, MarkupCase{"gr\xC3\xBCn", "gr\xC3\xBCn"}));
 
 }  // namespace
 }  // namespace tests

@@ -37,6 +37,7 @@ inline std::ostream& operator<<(std::ostream& stream, const Registered& register
 
 inline constexpr Registered everything = {2, 4, 4, 4, 1};
 
+/// Tests of what is on the toolbar.
 class Toolbar : public AddInTest {
  protected:
   headless::WorkspaceObject& workspace() { return *host().ui().workspaceList().find(workspaceId); }
@@ -68,13 +69,14 @@ class Toolbar : public AddInTest {
   }
 };
 
-enum class Outcome { True, False, Raises };
+/// How an entry point ends.
+enum class Ending { True, False, Raises };
 
 /// One call of `run` or `stop` to which the host answers with nothing.
 struct Refusal {
   std::string call;
   std::size_t nth;
-  Outcome outcome;
+  Ending ending;
   Registered left;
 };
 
@@ -89,15 +91,16 @@ inline std::string nameOf(const ::testing::TestParamInfo<Refusal>& info) {
   return name;
 }
 
+/// Tests of one refused call.
 class RefusedCall : public Toolbar, public ::testing::WithParamInterface<Refusal> {
  protected:
   void refuse() { host().gate().setFault({GetParam().nth, headless::FaultAnswer::Nothing, GetParam().call}); }
 
   /// `answer` is what the entry point answered; false when it raised.
-  void expectOutcome(bool answer) {
+  void expectEnding(bool answer) {
     EXPECT_TRUE(host().gate().faultStruck());
-    EXPECT_EQ(answer, GetParam().outcome == Outcome::True);
-    if (GetParam().outcome == Outcome::Raises) {
+    EXPECT_EQ(answer, GetParam().ending == Ending::True);
+    if (GetParam().ending == Ending::Raises) {
       EXPECT_THAT(takeErrorKinds(), ::testing::ElementsAre("std::exception"));
     }
     EXPECT_EQ(registered(), GetParam().left);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "host/step/reader.h"
+#include "host/step/writer.h"
+#include "tests/step/edited_file.h"
 #include "tests/step/foreign_files.h"
 #include "tests/step/made_designs.h"
 
@@ -50,6 +52,22 @@ TEST(MaterialReader, AsksTheLookupOnceForEachMaterial) {
     return nullptr;
   });
   EXPECT_EQ(asked, 1);
+}
+
+TEST(MaterialReader, FindsTheNameWhereverProgramsPutIt) {
+  const TemporaryFolder folder;
+  model::Design design("Root");
+  auto& part = design.addComponent("Part");
+  design.root().addInstance(part);
+  addBox(part, "Body").material = model::makeMaterial("Copper", 8960, colour("#B87333"));
+  write(design, folder / "written.stp");
+  for (const char* item : {"('Copper','')", "('','Copper')", "('material name','Copper')", "('Copper','red metal')"}) {
+    EditedFile edited(folder / "written.stp");
+    edited.replace("DESCRIPTIVE_REPRESENTATION_ITEM\\([^)]*\\)", "DESCRIPTIVE_REPRESENTATION_ITEM" + std::string(item));
+    edited.save(folder / "edited.stp");
+    const auto result = read(folder / "edited.stp");
+    EXPECT_EQ(componentNamed(*result, "Part").bodies[0]->material->name, "Copper") << item;
+  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <Bnd_Box.hxx>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 #include <utility>
@@ -190,6 +191,17 @@ TEST(Reader, LeavesBodiesWithoutColourWhenOnlyFacesHaveOne) {
   EXPECT_EQ(cube.appearance, nullptr);
   for (const auto& face : cube.faces) {
     EXPECT_EQ(model::hexText(face->appearance->colour), "#DD5228");
+  }
+}
+
+TEST(Reader, NamesBodiesAsTheFileDoesUnlessThatIsNoName) {
+  const std::vector<std::array<const char*, 3>> cases{{{"dm1-id-214.stp", "bolt", "R2"}},
+                                                      {{"red_cube_blue_cylinder.step", "red_cube", "red_cube"}},
+                                                      {{"as1-oc-214.stp", "bolt", "Body1"}},
+                                                      {{"as1-tu-203.stp", "bolt", "Body1"}}};
+  for (const auto& [file, component, body] : cases) {
+    WITH_STEP_FILE(path, file);
+    EXPECT_EQ(bodyOf(*read(path), component).name, body) << file;
   }
 }
 

@@ -20,10 +20,10 @@ std::string explainMissing(const std::string& name);
 
 }  // namespace headless::step
 
-/// Declares `path` as the path of a real file. Without the file the test is skipped, or fails where all must run.
-#define WITH_STEP_FILE(path, name)                                                                    \
-  const std::filesystem::path path = ::headless::step::findStepFile(name);                            \
-  if ((path).empty()) {                                                                               \
+/// Declares `variable` as the path of a real file. Without the file the test is skipped, or fails where all must run.
+#define WITH_STEP_FILE(variable, name)                                                                \
+  const std::filesystem::path variable = ::headless::step::findStepFile(name);                        \
+  if ((variable).empty()) {                                                                           \
     ASSERT_FALSE(::headless::step::areStepFilesRequired()) << ::headless::step::explainMissing(name); \
     GTEST_SKIP() << ::headless::step::explainMissing(name);                                           \
   }                                                                                                   \

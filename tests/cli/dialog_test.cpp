@@ -1,0 +1,70 @@
+#include "tests/cli/cli_fixture.h"
+
+namespace tests {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+TEST_F(CliTest, DialogAsBuilt) {
+  EXPECT_EQ(succeed({"dialog", rig()}),
+            "┌─ Tintora ──────────────────────────────────────────────────────────────────┐\n"
+            "│ ▾ Select Component/Body/Face                                               │\n"
+            "│   Select Object           < Select Body >  nothing picked                  │\n"
+            "│   Selection Filter         Component  [Body]  Face                         │\n"
+            "│ ▾ [x] Assign Appearance to Selected Object                                 │\n"
+            "│   Selection Appearance                                                     │\n"
+            "│   Library of Appearances  [ RAL_COLORS                    ▼]  1 of 1       │\n"
+            "│   Appearance              [ RAL 1000 Green beige          ▼]  1 of 216     │\n"
+            "│                             > RAL 1000 Green beige                         │\n"
+            "│                               RAL 1001 Beige                               │\n"
+            "│                               RAL 1002 Sand yellow                         │\n"
+            "│   Filter                  [                                ]               │\n"
+            "│   ( RemoveAppearance ) (greyed out)                                        │\n"
+            "│ ▾ [x] Assign Material to Selected Object                                   │\n"
+            "│   Selection material                                                       │\n"
+            "│   [ ] Set Appearance by Material                                           │\n"
+            "│   Library of Materials    [ Engineering materials         ▼]  1 of 1       │\n"
+            "│   Material                [ Steel S235JR                  ▼]  1 of 74      │\n"
+            "│                             > Steel S235JR                                 │\n"
+            "│                               Steel AISI 1020                              │\n"
+            "│                               Steel AISI 1045                              │\n"
+            "│   Filter                  [                                ]               │\n"
+            "│ ( BtnApply ) (greyed out)                                                  │\n"
+            "├────────────────────────────────────────────────────────────────────────────┤\n"
+            "│                                                                  [ Close ] │\n"
+            "└────────────────────────────────────────────────────────────────────────────┘\n");
+}
+
+TEST_F(CliTest, DialogWithSomethingPickedSaysWhatItShows) {
+  const std::string dialog = succeed({"dialog", rig(), "--filter", "face", "--select", "*/Shaft/Face2"});
+  EXPECT_THAT(dialog, AllOf(HasSubstr("< Select Face >  2 picked"), HasSubstr("- Arm:1+Pin:1/Shaft/Face2 "),
+                            HasSubstr("Opaque(0,0,255) - overriden appearance."),
+                            HasSubstr("Physical material: Steel;  Density: 7850 kg.m-3")));
+  EXPECT_THAT(dialog, Not(HasSubstr("greyed out")));
+}
+
+class DialogUnderProfile : public CliTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(DialogUnderProfile, ShowsThePickedObjects) {
+  EXPECT_THAT(succeed({"dialog", rig(), "--filter", "body", "--select", "*", "--profile", GetParam()}),
+              AllOf(HasSubstr("5 picked"), HasSubstr("and 1 more"), HasSubstr("Various")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Profiles, DialogUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_F(CliTest, ALibraryThatCannotBeReadIsNamedWhenTheDialogDoesNotOpen) {
+  const std::filesystem::path addIn = at("addin");
+  std::filesystem::create_directories(addIn / "resources/Libs/Appearances");
+  std::filesystem::create_directories(addIn / "resources/Libs/Materials");
+  std::filesystem::copy_file(TINTORA_MODULE, addIn / "Tintora.dll");
+  headless::step::fillFile(addIn / "resources/Libs/Appearances/RAL_COLORS.adsklib", "{\"format\": \"other\"}");
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", addIn.string()}),
+              AllOf(HasSubstr("while the dialog was being built"), HasSubstr("commandCreated"),
+                    HasSubstr("not loaded: "), HasSubstr("RAL_COLORS.adsklib")));
+}
+
+}  // namespace
+}  // namespace tests

@@ -1,0 +1,111 @@
+#include "tests/cli/program.h"
+
+#include <fcntl.h>
+#include <pty.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+
+namespace tests {
+
+namespace {
+
+constexpr const char* program = TINTORA_HOST_PROGRAM;
+
+std::vector<char*> argumentsFor(const std::vector<std::string>& arguments) {
+  std::vector<char*> list{const_cast<char*>(program)};
+  for (const std::string& argument : arguments) {
+    list.push_back(const_cast<char*>(argument.c_str()));
+  }
+  list.push_back(nullptr);
+  return list;
+}
+
+int waitFor(pid_t child) {
+  int status = 0;
+  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+std::string readAll(int descriptor) {
+  std::string text;
+  std::array<char, 4096> block{};
+  // The end of a terminal is an error, that of a file is not.
+  for (ssize_t count = 0; (count = read(descriptor, block.data(), block.size())) > 0;) {
+    text.append(block.data(), static_cast<std::size_t>(count));
+  }
+  return text;
+}
+
+/// A file without a name that collects a stream of the program.
+class Collector {
+ public:
+  Collector() : file(std::tmpfile(), &std::fclose) {
+    if (file == nullptr) {
+      throw std::runtime_error("no temporary file can be made");
+    }
+  }
+  int descriptor() const { return fileno(file.get()); }
+  std::string text() const {
+    lseek(descriptor(), 0, SEEK_SET);
+    return readAll(descriptor());
+  }
+
+ private:
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> file;
+};
+
+}  // namespace
+
+Outcome runProgram(const std::vector<std::string>& arguments) {
+  const Collector out;
+  const Collector err;
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+  posix_spawn_file_actions_adddup2(&actions, out.descriptor(), STDOUT_FILENO);
+  posix_spawn_file_actions_adddup2(&actions, err.descriptor(), STDERR_FILENO);
+  pid_t child = 0;
+  const int failed = posix_spawn(&child, program, &actions, nullptr, argumentsFor(arguments).data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (failed != 0) {
+    throw std::runtime_error(std::string("cannot start ") + program);
+  }
+  Outcome outcome;
+  outcome.exitCode = waitFor(child);
+  outcome.out = out.text();
+  outcome.err = err.text();
+  return outcome;
+}
+
+Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed) {
+  const std::vector<char*> list = argumentsFor(arguments);
+  int terminal = -1;
+  const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child < 0) {
+    throw std::runtime_error("no terminal can be made");
+  }
+  if (child == 0) {
+    execv(program, list.data());
+    _exit(127);
+  }
+  if (write(terminal, typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {
+    throw std::runtime_error("cannot type into the terminal");
+  }
+  Outcome outcome;
+  outcome.out = readAll(terminal);
+  outcome.exitCode = waitFor(child);
+  close(terminal);
+  outcome.out.erase(std::remove(outcome.out.begin(), outcome.out.end(), '\r'), outcome.out.end());
+  return outcome;
+}
+
+}  // namespace tests

@@ -1,0 +1,23 @@
+// The built program tintora-host, run as its users run it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// What a run left behind.
+struct Outcome {
+  /// Negative when the program was killed by a signal.
+  int exitCode = -1;
+  std::string out;
+  std::string err;
+};
+
+/// Runs the program to its end, without input and without a terminal.
+Outcome runProgram(const std::vector<std::string>& arguments);
+
+/// Runs it in a terminal in which `typed` is typed; `out` is all that the terminal shows, line breaks as plain "\n".
+Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed);
+
+}  // namespace tests

@@ -1,0 +1,86 @@
+// What the program records and what it leaves behind: traces, counts, settings.
+#include "tests/cli/cli_fixture.h"
+
+namespace tests {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::ContainsRegex;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+TEST_F(CliTest, TheTraceHasTheUsersActionsTheEventsAndTheCalls) {
+  succeed(applying(
+      {"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--trace", at("calls.txt")}));
+  EXPECT_THAT(content("calls.txt"), AllOf(HasSubstr("# the user chooses \"RAL 3000 Flame red\" in idAppearanceList\n"),
+                                          HasSubstr("# event inputChanged(idBtnApply)\n"),
+                                          ContainsRegex("BRepBody.*\\.appearance=.* -> true")));
+}
+
+TEST_F(CliTest, TheTraceIsWrittenAlsoWhenTheRunFails) {
+  fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "nix", "--trace", at("calls.txt")}));
+  EXPECT_THAT(content("calls.txt"), HasSubstr("# the user presses idAssetsMatMng\n"));
+}
+
+TEST_F(CliTest, ATraceThatCannotBeWrittenIsAFailureBeforeAnythingIsDone) {
+  fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--trace",
+                    at("no/such/folder/calls.txt")}));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
+TEST_F(CliTest, CallsAreCountedByName) {
+  EXPECT_THAT(
+      runProgram({"dialog", rig(), "--count-calls"}).err,
+      AllOf(ContainsRegex("[0-9]+ calls of the host\n"), HasSubstr(" 3  CommandInputs.addGroupCommandInput\n")));
+}
+
+class Settings : public CliTest {
+ protected:
+  Settings() { std::filesystem::copy(TINTORA_ADDIN_FOLDER, at("addin"), std::filesystem::copy_options::recursive); }
+  std::string chooseRed(const std::vector<std::string>& more) const {
+    std::vector<std::string> arguments = applying(
+        {"--addin", at("addin"), "--filter", "face", "--select", "Base/Face1", "--appearance", "RAL 3000 Flame red"});
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return succeed(arguments);
+  }
+  bool isSaved() const { return exists("addin/Tintora_USER_CmdSet.txt"); }
+};
+
+TEST_F(Settings, OfOneRunDoNotReachTheNext) {
+  chooseRed({});
+  EXPECT_FALSE(isSaved());
+  EXPECT_THAT(succeed({"dialog", rig(), "--addin", at("addin")}), HasSubstr("[Body]"));
+}
+
+TEST_F(Settings, ReachTheNextRunWhenTheyAreKept) {
+  chooseRed({"--keep-settings"});
+  EXPECT_TRUE(isSaved());
+  EXPECT_THAT(succeed({"dialog", rig(), "--addin", at("addin"), "--keep-settings"}),
+              AllOf(HasSubstr("[Face]"), HasSubstr("[ RAL 3000 Flame red "),
+                    HasSubstr("▸ [ ] Assign Material to Selected Object")));
+}
+
+TEST_F(Settings, ThatWereKeptDoNotReachARunThatStartsAfresh) {
+  chooseRed({"--keep-settings"});
+  EXPECT_THAT(succeed({"dialog", rig(), "--addin", at("addin")}), AllOf(HasSubstr("[Body]"), Not(HasSubstr("▸"))));
+}
+
+TEST_F(Settings, ThatWereKeptDoNotChangeWhatIsApplied) {
+  chooseRed({"--keep-settings"});
+  EXPECT_THAT(succeed({"apply", rig(), "--addin", at("addin"), "--keep-settings", "--filter", "body", "--select",
+                       "Base", "--material", "Brass C26000", "--save", at("out.step")}),
+              HasSubstr("Applied material \"Brass C26000\" to 1 body"));
+  EXPECT_THAT(succeed({"tree", at("out.step")}), HasSubstr("#FF0000  Opaque(255,0,0)  own       Brass C26000"));
+}
+
+TEST_F(Settings, ThatWereKeptDoNotKeepTheRemoveButtonOutOfReach) {
+  succeed({"apply", rig(), "--addin", at("addin"), "--keep-settings", "--filter", "body", "--select", "Base",
+           "--material", "Brass C26000", "--save", at("out.step")});
+  EXPECT_THAT(succeed({"clear", rig(), "--addin", at("addin"), "--keep-settings", "--filter", "body", "--select",
+                       "Base", "--save", at("plain.step")}),
+              HasSubstr("Removed"));
+}
+
+}  // namespace
+}  // namespace tests

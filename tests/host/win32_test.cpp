@@ -1,0 +1,182 @@
+// The Windows calls where there is no Windows. Windows has its own.
+#ifndef _WIN32
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <string>
+
+#include "host/win32/desktop.h"
+
+namespace tests {
+namespace {
+
+namespace desktop = headless::desktop;
+
+std::string toNarrow(const std::wstring& wide, const char* defaultChar = nullptr, BOOL* usedDefault = nullptr) {
+  char buffer[100] = {};
+  const int size =
+      WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), buffer, 100, defaultChar, usedDefault);
+  return {buffer, static_cast<std::size_t>(size)};
+}
+
+std::wstring toWide(const std::string& narrow) {
+  wchar_t buffer[100] = {};
+  const int size = MultiByteToWideChar(CP_ACP, 0, narrow.data(), static_cast<int>(narrow.size()), buffer, 100);
+  return {buffer, static_cast<std::size_t>(size)};
+}
+
+struct TextCase {
+  std::wstring wide;
+  std::string narrow;
+};
+
+void PrintTo(const TextCase& text, std::ostream* stream) {
+  *stream << text.narrow;
+}
+
+class Conversion : public testing::TestWithParam<TextCase> {};
+
+TEST_P(Conversion, GoesBothWays) {
+  EXPECT_EQ(toNarrow(GetParam().wide), GetParam().narrow);
+  EXPECT_EQ(toWide(GetParam().narrow), GetParam().wide);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfText, Conversion,
+                         testing::Values(TextCase{L"", ""}, TextCase{L"plain", "plain"},
+                                         TextCase{L"\x7F\x80", "\x7F\xC2\x80"},
+                                         TextCase{L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80"},
+                                         TextCase{L"\xFFFD", "\xEF\xBF\xBD"},
+                                         TextCase{L"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"}));
+
+struct InvalidCase {
+  std::string narrow;
+  std::wstring wide;
+};
+
+void PrintTo(const InvalidCase& text, std::ostream* stream) {
+  *stream << testing::PrintToString(text.narrow);
+}
+
+class InvalidBytes : public testing::TestWithParam<InvalidCase> {};
+
+TEST_P(InvalidBytes, BecomeReplacementCharacters) {
+  EXPECT_EQ(toWide(GetParam().narrow), GetParam().wide);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfNarrowText, InvalidBytes,
+                         testing::Values(InvalidCase{"a\x80z", L"a\xFFFDz"}, InvalidCase{"\xFF", L"\xFFFD"},
+                                         InvalidCase{"\xC3", L"\xFFFD"}, InvalidCase{"\xC3z", L"\xFFFDz"},
+                                         InvalidCase{"\xE2\x82", L"\xFFFD\xFFFD"},
+                                         InvalidCase{"\xC0\xAF", L"\xFFFD\xFFFD"},
+                                         InvalidCase{"\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
+                                         InvalidCase{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+                                         InvalidCase{"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+                                         InvalidCase{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+                                         InvalidCase{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"}));
+
+TEST(Conversions, TellTheSizeThatIsNeeded) {
+  EXPECT_EQ(WideCharToMultiByte(CP_ACP, 0, L"\xE4z", 2, nullptr, 0, nullptr, nullptr), 3);
+  EXPECT_EQ(MultiByteToWideChar(CP_ACP, 0, "\xC3\xA4z", 3, nullptr, 0), 2);
+}
+
+TEST(Conversions, CountTheEndWhenTheLengthIsLeftToThem) {
+  EXPECT_EQ(WideCharToMultiByte(CP_ACP, 0, L"ab", -1, nullptr, 0, nullptr, nullptr), 3);
+  EXPECT_EQ(MultiByteToWideChar(CP_ACP, 0, "ab", -1, nullptr, 0), 3);
+  char buffer[3] = {'x', 'x', 'x'};
+  EXPECT_EQ(WideCharToMultiByte(CP_ACP, 0, L"ab", -1, buffer, 3, nullptr, nullptr), 3);
+  EXPECT_STREQ(buffer, "ab");
+}
+
+TEST(Conversions, FailWhenTheResultDoesNotFit) {
+  char narrow[2] = {};
+  EXPECT_EQ(WideCharToMultiByte(CP_ACP, 0, L"abc", 3, narrow, 2, nullptr, nullptr), 0);
+  wchar_t wide[2] = {};
+  EXPECT_EQ(MultiByteToWideChar(CP_ACP, 0, "abc", 3, wide, 2), 0);
+}
+
+TEST(Conversions, PutTheDefaultWhereThereIsNoCharacter) {
+  const std::wstring lone = {L'a', static_cast<wchar_t>(0xD800), L'z'};
+  BOOL usedDefault = FALSE;
+  EXPECT_EQ(toNarrow(lone, " ", &usedDefault), "a z");
+  EXPECT_EQ(usedDefault, TRUE);
+  EXPECT_EQ(toNarrow(lone), "a?z");
+  EXPECT_EQ(toNarrow(L"az", " ", &usedDefault), "az");
+  EXPECT_EQ(usedDefault, FALSE);
+}
+
+// The address of anything in a module tells the module, as its load address does.
+HMODULE someModule() {
+  static int inThisProgram = 0;
+  return reinterpret_cast<HMODULE>(&inThisProgram);
+}
+
+TEST(PathOfAModule, IsFullAndEnded) {
+  std::wstring path(4096, L'x');
+  const DWORD length = GetModuleFileNameW(someModule(), path.data(), 4096);
+  ASSERT_GT(length, 0U);
+  EXPECT_EQ(path[length], L'\0');
+  const std::filesystem::path file(path.substr(0, length));
+  EXPECT_TRUE(file.is_absolute() && std::filesystem::exists(file)) << file;
+}
+
+TEST(PathOfAModule, IsCutToTheBufferAndSaysSo) {
+  std::wstring whole(4096, L'x');
+  const DWORD length = GetModuleFileNameW(someModule(), whole.data(), 4096);
+  std::wstring path(length + 1, L'x');
+  EXPECT_EQ(GetModuleFileNameW(someModule(), path.data(), 5), 5U);
+  EXPECT_EQ(path.substr(0, 6), whole.substr(0, 4) + L'\0' + L'x');
+  EXPECT_EQ(GetModuleFileNameW(someModule(), path.data(), length), length) << "no room for the end";
+  EXPECT_EQ(path[length - 1], L'\0');
+  EXPECT_EQ(GetModuleFileNameW(someModule(), path.data(), length + 1), length);
+  EXPECT_EQ(path[length], L'\0');
+}
+
+TEST(PathOfAModule, IsEmptyWithoutAModuleOrABuffer) {
+  wchar_t path[10] = {};
+  EXPECT_EQ(GetModuleFileNameW(nullptr, path, 10), 0U);
+  EXPECT_EQ(GetModuleFileNameW(someModule(), path, 0), 0U);
+}
+
+class Desktop : public testing::Test {
+ protected:
+  Desktop() { desktop::reset(); }
+  ~Desktop() override { desktop::reset(); }
+};
+
+TEST_F(Desktop, ShowsTheCursorThatWasSetLast) {
+  EXPECT_EQ(desktop::cursor().shape, desktop::CursorShape::Arrow);
+  const HCURSOR wait = LoadCursorA(nullptr, IDC_WAIT);
+  const HCURSOR arrow = SetCursor(wait);
+  EXPECT_EQ(desktop::cursor().shape, desktop::CursorShape::Wait);
+  EXPECT_EQ(arrow, LoadCursorA(nullptr, IDC_ARROW));
+  EXPECT_EQ(SetCursor(arrow), wait);
+  EXPECT_EQ(desktop::cursor().shape, desktop::CursorShape::Arrow);
+}
+
+TEST_F(Desktop, CountsHowOftenTheCursorIsShown) {
+  EXPECT_EQ(ShowCursor(TRUE), 1);
+  EXPECT_EQ(ShowCursor(FALSE), 0);
+  EXPECT_EQ(ShowCursor(FALSE), -1);
+  EXPECT_EQ(desktop::cursor().displayCount, -1);
+  desktop::reset();
+  EXPECT_EQ(desktop::cursor().displayCount, 0);
+}
+
+TEST_F(Desktop, RemembersTheFilesThatWereOpened) {
+  const std::string folder = std::filesystem::temp_directory_path().string();
+  const auto open = [](const std::string& file) {
+    return reinterpret_cast<std::size_t>(ShellExecuteA(nullptr, "open", file.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+  };
+  EXPECT_GT(open(folder), 32U);
+  EXPECT_EQ(open("no such file.html"), 2U);
+  EXPECT_EQ(desktop::openedFiles(), std::vector<std::string>({folder, "no such file.html"}));
+  desktop::reset();
+  EXPECT_TRUE(desktop::openedFiles().empty());
+}
+
+}  // namespace
+}  // namespace tests
+
+#endif
