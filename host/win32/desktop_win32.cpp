@@ -10,7 +10,9 @@ namespace headless::desktop {
 
 namespace {
 
-const char* logOfOpenedFiles() { return std::getenv("TINTORA_OPEN_LOG"); }
+const char* logOfOpenedFiles() {
+  return std::getenv("TINTORA_OPEN_LOG");
+}
 
 }  // namespace
 

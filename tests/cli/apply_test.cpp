@@ -75,7 +75,8 @@ TEST_F(CliTest, ApplyingTheSameTwiceSaysThatNothingChanged) {
   const std::vector<std::string> what = {"--filter", "body", "--select", "*/Beam", "--material", "Brass C26000"};
   succeed(applying(what));
   std::filesystem::rename(at("out.step"), rig());
-  EXPECT_THAT(succeed(applying(what)), StartsWith("Nothing changed: 2 bodies had it already, material \"Brass C26000\""));
+  EXPECT_THAT(succeed(applying(what)),
+              StartsWith("Nothing changed: 2 bodies had it already, material \"Brass C26000\""));
 }
 
 TEST_F(CliTest, SavedAlsoForViewers) {
@@ -182,16 +183,16 @@ INSTANTIATE_TEST_SUITE_P(Table, MissingThing, ::testing::ValuesIn(missingThings)
 
 TEST_F(CliTest, AFolderThatIsNotThereIsAFailureThatNamesIt) {
   const std::string target = at("no/such/folder/out.step");
-  EXPECT_THAT(runProgram({"apply", rig(), "--filter", "body", "--select", "Base", "--appearance",
-                          "RAL 3000 Flame red", "--save", target})
+  EXPECT_THAT(runProgram({"apply", rig(), "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red",
+                          "--save", target})
                   .err,
               AllOf(HasSubstr(target), HasSubstr("folder")));
 }
 
 TEST_F(CliTest, WhenTheSecondFileCannotBeWrittenAnEarlierOneOfItsNameStays) {
   std::filesystem::create_directory(at("out.glb"));
-  const Outcome outcome = runProgram(applying(
-      {"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", at("out.glb")}));
+  const Outcome outcome = runProgram(
+      applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", at("out.glb")}));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr("out.glb"));
   EXPECT_TRUE(std::filesystem::is_directory(at("out.glb")));
