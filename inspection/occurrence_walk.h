@@ -2,6 +2,7 @@
 // own, so that no nesting, however deep, exhausts the stack.
 #pragma once
 
+#include <cstddef>
 #include <stack>
 
 #include "shell/host_objects.h"
@@ -33,17 +34,27 @@ bool walkOccurrences(const Ptr<fusion::Occurrence>& top, Missing missing, Reach 
     return next != Walk::stop;
   };
 
+  // The next child is asked for only when the one before it is done with, all below it included.
+  const auto moveOn = [&path] {
+    if (!path.empty()) {
+      path.top().children.advance();
+    }
+  };
+
   bool walking = reachAndEnter(top);
   while (walking && !path.empty()) {
     auto& [occurrence, children] = path.top();
     if (children.atEnd()) {
       leave(occurrence);
       path.pop();
+      moveOn();
       continue;
     }
-    const Ptr<fusion::Occurrence> child = children.current();
-    children.advance();
-    walking = reachAndEnter(child);
+    const std::size_t depth = path.size();
+    walking = reachAndEnter(children.current());
+    if (path.size() == depth) {
+      moveOn();
+    }
   }
   return !walking;
 }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 #include <vector>
@@ -51,8 +52,12 @@ bool fileExists(const fs::path& file) {
   return fs::exists(file, unreadableMeansMissing);
 }
 
-Lines readLines(const fs::path& file) {
+/// Nothing when the file cannot be opened.
+std::optional<Lines> readLines(const fs::path& file) {
   std::ifstream stream(file);
+  if (!stream) {
+    return std::nullopt;
+  }
   Lines lines;
   for (std::string line; std::getline(stream, line);) {
     lines.push_back(line);
@@ -87,13 +92,17 @@ void createFile(const fs::path& file, const Settings& state) {
 }
 
 void updateFile(const fs::path& file, const Settings& state) {
-  Lines lines = readLines(file);
-  if (!lines.empty()) {
-    lines.resize(std::max(lines.size(), state.size()));
-    std::copy(state.begin(), state.end(), lines.begin());
+  std::optional<Lines> lines = readLines(file);
+  if (!lines) {
+    // What cannot be read would be lost by writing.
+    return;
+  }
+  if (!lines->empty()) {
+    lines->resize(std::max(lines->size(), state.size()));
+    std::copy(state.begin(), state.end(), lines->begin());
   }
   std::ofstream stream(file);
-  for (const std::string& line : lines) {
+  for (const std::string& line : *lines) {
     stream << line << '\n';
   }
 }
@@ -195,8 +204,9 @@ void saveCommandSettings() {
 
 void loadCommandSettings() {
   const fs::path file = toSystemPath(settingsFilePath());
-  if (fileExists(file)) {
-    apply(readLines(file));
+  const std::optional<Lines> lines = readLines(file);
+  if (lines) {
+    apply(*lines);
   }
 }
 

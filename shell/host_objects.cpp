@@ -7,7 +7,8 @@ namespace tintora {
 
 EntityKind entityKind(const Ptr<core::Base>& entity) {
   // The host hands out plain C texts: compare the letters, not the addresses.
-  const std::string_view className = entity->objectType();
+  const char* const typeName = entity->objectType();
+  const std::string_view className = typeName != nullptr ? typeName : "";
   if (className == "adsk::fusion::Occurrence") {
     return EntityKind::occurrence;
   }

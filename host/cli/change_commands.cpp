@@ -23,9 +23,12 @@ struct ChangeOptions {
   OutputFiles outputs;
 };
 
-void addChangeOptions(CLI::App& command, ChangeOptions& options) {
+void addObjectOptions(CLI::App& command, ChangeOptions& options) {
   addInputFile(command, options.file);
   addPickOptions(command, options.pick, Picking::Required);
+}
+
+void addRunOptions(CLI::App& command, ChangeOptions& options) {
   addOutputOptions(command, options.outputs);
   addAddInOptions(command, options.sitting);
 }
@@ -135,25 +138,19 @@ void runDemo(const DemoOptions& options) {
   playDemo(sitting, options.outputs, options.colour.isOn());
 }
 
-}  // namespace
-
-void addApplyCommand(CLI::App& program) {
-  const auto options = std::make_shared<ApplyOptions>();
-  CLI::App& command =
-      *program.add_subcommand("apply", "Assign an appearance, a material or both, in the add-in's dialog, and save");
-  addChangeOptions(command, *options);
+void addAssignmentOptions(CLI::App& command, ApplyOptions& options) {
   const auto addName = [&](const char* option, std::string& name, const char* description) {
     return command.add_option(option, name, description)->type_name("NAME")->group(applyGroup);
   };
-  auto* appearance = addName("--appearance", options->appearance.name, "The appearance to apply");
-  addName("--appearance-library", options->appearance.library,
+  auto* appearance = addName("--appearance", options.appearance.name, "The appearance to apply");
+  addName("--appearance-library", options.appearance.library,
           "Its library; the one that the dialog shows, RAL_COLORS, unless given")
       ->needs(appearance);
-  auto* material = addName("--material", options->material.name, "The material to assign");
-  addName("--material-library", options->material.library, "Its library; the one that the dialog shows unless given")
+  auto* material = addName("--material", options.material.name, "The material to assign");
+  addName("--material-library", options.material.library, "Its library; the one that the dialog shows unless given")
       ->needs(material);
   command
-      .add_flag("--set-appearance-by-material", options->setsAppearanceByMaterial,
+      .add_flag("--set-appearance-by-material", options.setsAppearanceByMaterial,
                 "With --material and without --appearance: show the material's look instead of putting back what was "
                 "applied before")
       ->group(applyGroup)
@@ -161,12 +158,23 @@ void addApplyCommand(CLI::App& program) {
       ->excludes(appearance);
   command
       .add_option(
-          "--answer", options->answer,
+          "--answer", options.answer,
           "Answer to the add-in's question whether appearances of bodies and faces below are to be removed, yes "
           "or no; without it the question is put in the terminal")
       ->check(CLI::IsMember({"yes", "no"}))
       ->type_name("ANSWER")
       ->group(applyGroup);
+}
+
+}  // namespace
+
+void addApplyCommand(CLI::App& program) {
+  const auto options = std::make_shared<ApplyOptions>();
+  CLI::App& command =
+      *program.add_subcommand("apply", "Assign an appearance, a material or both, in the add-in's dialog, and save");
+  addObjectOptions(command, *options);
+  addAssignmentOptions(command, *options);
+  addRunOptions(command, *options);
   command.callback([options] { runApply(*options); });
 }
 
@@ -174,7 +182,8 @@ void addClearCommand(CLI::App& program) {
   const auto options = std::make_shared<ChangeOptions>();
   CLI::App& command =
       *program.add_subcommand("clear", "Remove applied appearances with the add-in's remove button, and save");
-  addChangeOptions(command, *options);
+  addObjectOptions(command, *options);
+  addRunOptions(command, *options);
   command.callback([options] { runClear(*options); });
 }
 

@@ -21,7 +21,7 @@ constexpr const char* manual = R"(Examples:
   tintora-host apply pump.step --filter body --select '*cover*' \
       --appearance 'RAL 3000 Flame red' --save red.step
   tintora-host apply pump.step --filter component --select 'bolt:*' \
-      --material 'Stainless steel AISI 304' --set-appearance-by-material \
+      --material 'Stainless Steel AISI 304' --set-appearance-by-material \
       --save steel.step --glb steel.glb
   tintora-host clear red.step --filter body --select '*' --save plain.step
 

@@ -36,8 +36,8 @@ class BuiltDesign {
   friend class DesignBuilder;
 
   struct PlacedInstance {
-    const model::Component* parent;
-    const model::Instance* instance;
+    const model::Component* parent = nullptr;
+    const model::Instance* instance = nullptr;
     TopLoc_Location place;
   };
 

@@ -36,7 +36,7 @@ Handle(StepRepr_Representation)
                      const Handle(StepRepr_RepresentationContext) & context) {
   const Handle(StepRepr_HArray1OfRepresentationItem) items = new StepRepr_HArray1OfRepresentationItem(1, 1);
   items->SetValue(1, item);
-  const Handle(StepRepr_Representation) representation = new StepRepr_Representation;
+  Handle(StepRepr_Representation) representation = new StepRepr_Representation;
   representation->Init(stepText(name), items, context);
   return representation;
 }
@@ -52,7 +52,7 @@ Handle(StepBasic_DerivedUnit) gramPerCubicCentimetre() {
   elements->Value(1)->Init(gram, 1.0);
   elements->SetValue(2, new StepBasic_DerivedUnitElement);
   elements->Value(2)->Init(centimetre, -3.0);
-  const Handle(StepBasic_DerivedUnit) unit = new StepBasic_DerivedUnit;
+  Handle(StepBasic_DerivedUnit) unit = new StepBasic_DerivedUnit;
   unit->Init(elements);
   return unit;
 }
@@ -146,7 +146,7 @@ class MaterialWriter {
     value->SetReal(density / kilogramsPerGramAndCentimetre);
     StepBasic_Unit unit;
     unit.SetValue(gramPerCubicCentimetre());
-    const Handle(StepRepr_MeasureRepresentationItem) measure = new StepRepr_MeasureRepresentationItem;
+    Handle(StepRepr_MeasureRepresentationItem) measure = new StepRepr_MeasureRepresentationItem;
     measure->Init(stepText("density measure"), value, unit);
     return measure;
   }

@@ -173,7 +173,7 @@ class StyleWriter {
     }
     StepRepr_CharacterizedDefinition definition;
     definition.SetValue(usageOf(occurrence));
-    const Handle(StepRepr_ProductDefinitionShape) shape = new StepRepr_ProductDefinitionShape;
+    Handle(StepRepr_ProductDefinitionShape) shape = new StepRepr_ProductDefinitionShape;
     shape->Init(stepText(""), false, stepText(""), definition);
     return shape;
   }

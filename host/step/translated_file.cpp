@@ -33,7 +33,7 @@ std::string schemaOf(const Handle(Interface_InterfaceModel) & entities) {
 /// What is wrong with the file's syntax, in the kernel's words; empty when nothing is. The kernel itself would leave
 /// out what it cannot make out and go on.
 std::string defectOf(Interface_InterfaceModel& entities) {
-  const Handle(Interface_Check) check = entities.GlobalCheck();
+  const Handle(Interface_Check)& check = entities.GlobalCheck();
   return check->HasFailed() ? std::string(check->CFail(1)) : std::string();
 }
 

@@ -37,7 +37,7 @@ bool CommandRunner::start(DefinitionObject& definition) {
     const Temporarily guard(firing, Firing::CommandEvent);
     events.starting.fire(boundary, starting, definition.texts().id);
   }
-  if (starting->stopped) {
+  if (starting->stopped || !definition.isAlive()) {
     workOffWaiting();
     return false;
   }

@@ -74,6 +74,23 @@ launcher_options() {
   fi
 }
 
+# show_progress PROCESS LOG PATTERN: while the process runs, shows how far its log says it is; on a terminal in place,
+# elsewhere a line every half minute.
+show_progress() {
+  local shown=$SECONDS at
+  while kill -0 "$1" 2>/dev/null; do
+    at=$(grep -oE "$3" "$2" 2>/dev/null | tail -n 1 || true)
+    if [ -t 1 ]; then
+      printf '\r  %s ' "$at"
+    elif [ $((SECONDS - shown)) -ge 30 ]; then
+      say "  [$((SECONDS - started)) s] $at"
+      shown=$SECONDS
+    fi
+    sleep 0.5
+  done
+  [ ! -t 1 ] || printf '\r%40s\r' ''
+}
+
 # build_tree FOLDER TARGETS... -- CMAKE_OPTIONS...
 # Configures and builds; shows the progress, and the whole log of what failed.
 build_tree() {
@@ -88,13 +105,7 @@ build_tree() {
     { cat "$log_folder/configure.log" >&2; fail "Configuring $folder failed"; }
   NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" "${targets[@]}" >"$log_folder/build.log" 2>&1 &
   local builder=$!
-  if [ -t 1 ]; then
-    while kill -0 $builder 2>/dev/null; do
-      printf '\r%s ' "$(tail -n 1 "$log_folder/build.log" | grep -oE '^ *\[[0-9]+/[0-9]+\]')"
-      sleep 0.5
-    done
-    printf '\r            \r'
-  fi
+  show_progress $builder "$log_folder/build.log" '\[[0-9]+/[0-9]+\]'
   wait $builder || { grep -vE '^ *\[[0-9]+/[0-9]+\] (Building|Linking)' "$log_folder/build.log" >&2; fail "Building $folder failed"; }
 }
 

@@ -99,6 +99,10 @@ struct Answer {
   const char* faceColour;
 };
 
+std::ostream& operator<<(std::ostream& stream, const Answer& answer) {
+  return stream << answer.name;
+}
+
 class AnsweredQuestion : public CliTest, public ::testing::WithParamInterface<Answer> {};
 
 TEST_P(AnsweredQuestion, DecidesAboutTheFaces) {

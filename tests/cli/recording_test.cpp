@@ -74,6 +74,12 @@ TEST_F(Settings, ThatWereKeptDoNotChangeWhatIsApplied) {
   EXPECT_THAT(succeed({"tree", at("out.step")}), HasSubstr("#FF0000  Opaque(255,0,0)  own       Brass C26000"));
 }
 
+TEST_F(Settings, WithBoxesNotTickedDoNotKeepTheListsOutOfReach) {
+  headless::step::fillFile(at("addin/Tintora_USER_CmdSet.txt"),
+                           "1\n1\nRAL_COLORS\nRAL 1000 Green beige\n1\nEngineering materials\nLead\n0\n0");
+  EXPECT_THAT(chooseRed({"--keep-settings"}), HasSubstr("Applied appearance \"RAL 3000 Flame red\" to 1 face"));
+}
+
 TEST_F(Settings, ThatWereKeptDoNotKeepTheRemoveButtonOutOfReach) {
   succeed({"apply", rig(), "--addin", at("addin"), "--keep-settings", "--filter", "body", "--select", "Base",
            "--material", "Brass C26000", "--save", at("out.step")});

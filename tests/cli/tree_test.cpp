@@ -6,6 +6,7 @@
 namespace tests {
 namespace {
 
+using ::testing::ContainsRegex;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -26,11 +27,12 @@ TEST_F(CliTest, TreeShowsStructureLooksSourcesAndMaterials) {
 
 TEST_F(CliTest, SiblingsThatLookDifferentHaveRowsOfTheirOwn) {
   succeed(applying(
-      {"--filter", "component", "--select", "Arm:2", "--appearance", "RAL 3000 Flame red", "--answer", "yes"}));
+      {"--filter", "component", "--select", "Arm:2+Pin:1", "--appearance", "RAL 3000 Flame red", "--answer", "no"}));
   const std::string tree = succeed({"tree", at("out.step")});
   EXPECT_THAT(tree, HasSubstr("├─ Arm:1 "));
   EXPECT_THAT(tree, HasSubstr("└─ Arm:2 "));
   EXPECT_THAT(tree, Not(HasSubstr("Arm:1-2")));
+  EXPECT_THAT(tree, ContainsRegex("Pin:1 +#A72920  Opaque\\(167,41,32\\) +own"));
 }
 
 TEST_F(CliTest, TheWholeTreeHasARowForEveryFace) {

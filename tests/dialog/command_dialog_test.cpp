@@ -15,8 +15,6 @@ using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-// --- the table of inputs ---------------------------------------------------------------------------------------------
-
 struct ExpectedInput {
   const char* group;
   InputKind kind;
@@ -291,8 +289,6 @@ TEST_F(CommandDialog, IsBuiltInThisOrder) {
       R"(SelectionCommandInput(idSelection).commandPrompt=("Select Body"))"};
   EXPECT_THAT(calls, ElementsAreArray(expected));
 }
-
-// --- the first fill of the lists -------------------------------------------------------------------------------------
 
 TEST_F(CommandDialog, SelectsTheLastColourLibraryInListingOrder) {
   folder.writeLibraries(

@@ -51,8 +51,6 @@ class ItemLists : public DialogTest {
   }
 };
 
-// --- filter ----------------------------------------------------------------------------------------------------------
-
 const std::vector<std::string> filteredNames = {"RAL 3000 Flame red",
                                                 "RAL 1000 Green beige",
                                                 "RAL 30",
@@ -197,8 +195,6 @@ TEST_F(ItemLists, GetNothingFoundAsOneSelectedItem) {
                   R"(ListItems(idMaterialList).add("nothing found", true, "", -1))"));
 }
 
-// --- icons -----------------------------------------------------------------------------------------------------------
-
 struct KeyCase {
   const char* description;
   const char* name;
@@ -298,8 +294,6 @@ TEST_F(ItemLists, OfAMaterialLibraryAreFilledAsColoursToo) {
   EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Steel 37"));
 }
 
-// --- what may be missing ---------------------------------------------------------------------------------------------
-
 class MissingListInput : public ItemLists, public ::testing::WithParamInterface<std::size_t> {};
 
 TEST_P(MissingListInput, LeavesTheListAsItIs) {
@@ -330,8 +324,6 @@ INSTANTIATE_TEST_SUITE_P(Calls, MissingListObject,
                            const std::string call = info.param;
                            return call.substr(call.find('.') + 1);
                          });
-
-// --- the routines themselves, on the dialog that the module has built ------------------------------------------------
 
 class ListRoutines : public ItemLists, public ::testing::WithParamInterface<ListInputs> {};
 

@@ -38,8 +38,6 @@ class Libraries : public DialogTest {
   std::vector<std::string> loads() { return callsWith(host().gate(), {"MaterialLibraries.load("}); }
 };
 
-// --- which entries are given to the host -----------------------------------------------------------------------------
-
 struct Entry {
   const char* description;
   const char* fileName;
@@ -115,8 +113,6 @@ TEST_F(Libraries, LinkToNowhereIsTheHostsToRefuse) {
   EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
 }
 
-// --- names and their order -------------------------------------------------------------------------------------------
-
 TEST_F(Libraries, AreListedInTheOrderOfTheFileSystem) {
   folder.writeLibraries(appearancesFolder, {appearanceLibrary("Zinc", {}), appearanceLibrary("RAL_COLORS", ralNames),
                                             appearanceLibrary("Amber", {}), appearanceLibrary("amber", {}),
@@ -178,8 +174,6 @@ TEST_F(Libraries, AreMissingInASecondDialogWhereTheHostLoadsAFileOnce) {
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(7)));
   EXPECT_THAT(itemsOf("idLibAssets"), IsEmpty());
 }
-
-// --- folders that cannot be read -------------------------------------------------------------------------------------
 
 struct LibraryKind {
   const char* name;

@@ -143,8 +143,6 @@ TEST_F(SelectionFilter, RaisesWithoutASelectedModeOnceTheSelectionIsEmpty) {
   EXPECT_THAT(session().input("idSelection").filters, IsEmpty());
 }
 
-// --- the routine itself, on the dialog that the module has built -----------------------------------------------------
-
 TEST_F(SelectionFilter, LeavesOneFilterWhenSetUpTwice) {
   startDialog();
   const LinkedGlobals globals(host());

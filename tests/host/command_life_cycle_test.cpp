@@ -147,6 +147,14 @@ TEST_F(CommandLife, DoesNotBeginWhenAHandlerStopsIt) {
   EXPECT_FALSE(command->definition->execute());
 }
 
+TEST_F(CommandLife, DoesNotBeginWhenAHandlerDeletesItsDefinition) {
+  const auto command = dialogCommand("Dialog");
+  application.starting.then = [&](const auto&) { command->definition->deleteMe(); };
+  session().press("Dialog");
+  EXPECT_EQ(log, Log({"starting(Dialog)"}));
+  EXPECT_FALSE(session().isDialogOpen());
+}
+
 TEST_F(CommandLife, LeavesTheRunningOneAloneWhenAHandlerStopsIt) {
   const auto running = dialogCommand("Running");
   const auto stopped = dialogCommand("Stopped");

@@ -271,6 +271,21 @@ TEST_F(Switch, EditClearsSelectionAfterTheEventAndReportsItOnce) {
   EXPECT_EQ(session().picked(), Log({}));
 }
 
+TEST_F(Switch, EditClearsSelectionOnceHoweverManyEditsThereAre) {
+  open();
+  session().pick("Base");
+  log.clear();
+  reactTo("button", [this] {
+    for (int i = 0; i < 1000; ++i) {
+      paintBase();
+      base()->appearance(nullptr);
+    }
+  });
+  session().click("button");
+  EXPECT_EQ(log.back(), "inputChanged(selection)");
+  EXPECT_EQ(log.size(), 3U);
+}
+
 TEST_F(Switch, EditClearsSelectionAtOnceAndReportsItInsideTheEvent) {
   openWith([](Profile& profile) { profile.editClearsSelection = EditClearsSelection::AtOnce; });
   session().pick("Base");

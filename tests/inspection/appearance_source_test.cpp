@@ -15,13 +15,15 @@ constexpr const char* rootText =
     "The root component has been selected. Fusion 360 does not support changing the appearance of the root component "
     "using the API.";
 
-// --- The source code in words ----------------------------------------------------------------------------------------
-
 struct SourceCase {
   int code;
   const char* filter;
   const char* words;
 };
+
+void PrintTo(const SourceCase& value, std::ostream* stream) {
+  *stream << "code " << value.code << " while " << value.filter << "s are picked";
+}
 
 std::string nameOfCase(const testing::TestParamInfo<SourceCase>& info) {
   return "Code" + std::to_string(info.param.code) + "While" + info.param.filter + "sArePicked";
@@ -71,8 +73,6 @@ TEST_P(AppearanceSourceCode, OfAFaceInWords) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllCodes, AppearanceSourceCode, testing::ValuesIn(sourceCases()), nameOfCase);
-
-// --- Bodies and faces of a design ------------------------------------------------------------------------------------
 
 class AppearanceSource : public InspectionTest {};
 
@@ -163,8 +163,6 @@ TEST_F(AppearanceSource, IsReadWithoutChangingTheDesign) {
   EXPECT_EQ(history().revision(), revision);
 }
 
-// --- Components ------------------------------------------------------------------------------------------------------
-
 TEST_F(AppearanceSource, OfTheRootComponentIsNotSupported) {
   start();
   occurrence("Frame:1").appearance = look("Blue");
@@ -179,8 +177,6 @@ TEST_F(AppearanceSource, OfAnyOtherComponentReadsTheSame) {
   pickComponent(componentNamed(design(), "Plate"));
   EXPECT_EQ(appearanceText(), rootText);
 }
-
-// --- What raises -----------------------------------------------------------------------------------------------------
 
 struct MissingCase {
   const char* name;
@@ -245,8 +241,6 @@ INSTANTIATE_TEST_SUITE_P(Classes, AppearanceSourceOfImpostor,
                            const std::string text = info.param;
                            return text.substr(text.rfind(':') + 1);
                          });
-
-// --- The routines by themselves --------------------------------------------------------------------------------------
 
 class AppearanceSourceRoutines : public LinkedInspectionTest {
  protected:

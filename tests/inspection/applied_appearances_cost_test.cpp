@@ -8,12 +8,12 @@
 namespace tests {
 namespace {
 
+using headless::Pickable;
+using headless::PickKind;
 using headless::model::Body;
 using headless::model::Component;
 using headless::model::Design;
 using headless::model::Occurrence;
-
-// --- Each object is asked once ---------------------------------------------------------------------------------------
 
 /// Bolt, the only component with a body, is used fifty times: five in each bracket, three brackets in each of two arms,
 /// five more in each arm, and ten at the top.
@@ -95,6 +95,25 @@ TEST_P(VisitedOnce, WhenEveryOccurrenceIsSelectedToo) {
   expectEachAskedOnce();
 }
 
+TEST_P(VisitedOnce, WhenBodiesAndFacesAreSelectedToo) {
+  std::vector<Selected> selection{root()};
+  for (const PickKind kind : {PickKind::Body, PickKind::Face}) {
+    for (const Pickable& pickable : headless::pickablesOf(design(), kind)) {
+      const bool isUnderAnOccurrence = pickable.occurrence != nullptr;
+      if (isUnderAnOccurrence) {
+        selection.push_back({nullptr, pickable});
+      }
+    }
+  }
+  startCounting();
+  collect(selection);
+  expectEachAskedOnce();
+  std::reverse(selection.begin(), selection.end());
+  startCounting();
+  collect(selection);
+  expectEachAskedOnce();
+}
+
 INSTANTIATE_TEST_SUITE_P(Designs, VisitedOnce,
                          testing::Values(DesignCase{"Machine", machine}, DesignCase{"DeepReuse", deepReuseDesign},
                                          DesignCase{"Flat100", [] { return flatDesign(100); }},
@@ -146,8 +165,6 @@ TEST_P(CallsPerObject, AreConstantAsTheDesignGrows) {
 INSTANTIATE_TEST_SUITE_P(Designs, CallsPerObject,
                          testing::Values(GrowthCase{"Flat", flatDesign}, GrowthCase{"Chain", chainDesign}),
                          [](const auto& info) { return std::string(info.param.name); });
-
-// --- Any depth -------------------------------------------------------------------------------------------------------
 
 class DeepChain : public InspectionTest {
  protected:

@@ -14,8 +14,6 @@ namespace {
 using headless::makeObject;
 using headless::model::Design;
 
-// --- The remove button -----------------------------------------------------------------------------------------------
-
 struct RemoveCase {
   const char* name;
   std::function<void(Design&)> paint;
@@ -128,8 +126,6 @@ TEST_F(AppliedAppearances, AreTakenAnewAtEachChangeOfTheSelection) {
   session().pick("Base");
   EXPECT_FALSE(isRemoveEnabled());
 }
-
-// --- The routines by themselves --------------------------------------------------------------------------------------
 
 using Inventory = InventoryTest;
 

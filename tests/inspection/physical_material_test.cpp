@@ -29,8 +29,6 @@ std::shared_ptr<const Material> materialWith(const std::string& name, std::vecto
   return std::make_shared<const Material>(std::move(material));
 }
 
-// --- Density ---------------------------------------------------------------------------------------------------------
-
 struct DensityCase {
   const char* name;
   double density;
@@ -123,8 +121,6 @@ TEST_F(PhysicalMaterial, NameIsShownAsItIs) {
   EXPECT_EQ(materialText(), "Physical material: <b></b>Käse & Wein</b>;  Density: 1 kg.m<sup>-3</sup>");
 }
 
-// --- Kinds of entities -----------------------------------------------------------------------------------------------
-
 TEST_F(PhysicalMaterial, OfAFaceIsThatOfItsBody) {
   start();
   body("Plate", "Plate1").material = materialOf("Brass", 8500);
@@ -207,8 +203,6 @@ TEST_F(PhysicalMaterial, VariesInBoldWithoutLookingForADensity) {
   EXPECT_EQ(callsOf("Material.materialProperties"), 0U);
 }
 
-// --- Several entities ------------------------------------------------------------------------------------------------
-
 TEST_F(PhysicalMaterial, OfTwoBodiesOfOneMaterialIsOneText) {
   startDialog();
   pickAll({"Base", "Bolt:2/Head"});
@@ -254,8 +248,6 @@ TEST_F(PhysicalMaterial, OfAVaryingAndASteelOccurrenceIsWrittenLarge) {
   pickAll({"Frame:1", "Bolt:2"});
   EXPECT_EQ(materialText(), "Physical material: Various");
 }
-
-// --- What raises -----------------------------------------------------------------------------------------------------
 
 struct MissingMaterialCase {
   const char* name;
@@ -331,8 +323,6 @@ INSTANTIATE_TEST_SUITE_P(Answers, PhysicalMaterialWithout,
                                          NoErrorCase{"MaterialOfAComponent", "Component", "Frame:1+Plate:1",
                                                      "Component.material", "Physical material: <b>various"}),
                          [](const auto& info) { return std::string(info.param.name); });
-
-// --- The routine by itself -------------------------------------------------------------------------------------------
 
 class PhysicalMaterialRoutine : public LinkedInspectionTest {
  protected:

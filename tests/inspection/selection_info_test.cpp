@@ -18,8 +18,6 @@ class SelectionInfo : public InspectionTest {
   }
 };
 
-// --- One text for several --------------------------------------------------------------------------------------------
-
 TEST_F(SelectionInfo, TwoAlikeShowTheirCommonTexts) {
   startDialog();
   pickAll({"Base", "Bolt:2/Head"});
@@ -119,8 +117,6 @@ TEST_F(SelectionInfo, DifferenceIsToTheFirstAndNotToTheOneBefore) {
   EXPECT_EQ(materialText(), "Physical material: Various");
 }
 
-// --- Nothing selected ------------------------------------------------------------------------------------------------
-
 TEST_F(SelectionInfo, ClearingEmptiesBothTextsAndDisablesRemove) {
   start();
   body("Machine", "Base").appearance = look("Red");
@@ -161,8 +157,6 @@ TEST_F(SelectionInfo, NothingIsDescribedWithoutSelection) {
   EXPECT_EQ(callsOf("SelectionCommandInput.selection"), 0U);
   EXPECT_EQ(callsOf("BRepBody.appearance"), 0U);
 }
-
-// --- Entities that the host does not return --------------------------------------------------------------------------
 
 class SelectionInfoWithGaps : public SelectionInfo {
  protected:
@@ -260,8 +254,6 @@ TEST_F(SelectionInfo, RecoversAtTheNextPick) {
   EXPECT_EQ(materialText(), steelText);
 }
 
-// --- The routine without an input ------------------------------------------------------------------------------------
-
 class SelectionInfoRoutine : public LinkedInspectionTest {
  protected:
   void SetUp() override {
@@ -299,8 +291,6 @@ TEST_F(SelectionInfoRoutine, EntitiesComeInTheOrderOfPicking) {
   }
   EXPECT_EQ(names, (std::vector<std::string>{"Base", "Shank", "Head"}));
 }
-
-// --- Every kind of host ----------------------------------------------------------------------------------------------
 
 class SelectionInfoUnderProfile : public AddInUnderProfile {};
 

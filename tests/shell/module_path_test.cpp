@@ -109,8 +109,6 @@ TEST_F(ModulePath, AddInFolderIsTheOneOfTheModuleAndNotOfTheHost) {
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
 }
 
-// --- joinPath --------------------------------------------------------------------------------------------------------
-
 std::string withSystemSeparators(const std::string& path) {
   return fs::path(path).make_preferred().string();
 }

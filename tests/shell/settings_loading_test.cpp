@@ -129,8 +129,6 @@ TEST_F(SettingsLoading, SetsTheInputsInThisOrder) {
   EXPECT_THAT(calls, ElementsAreArray(expected));
 }
 
-// --- files that are shorter than they should be ----------------------------------------------------------------------
-
 struct ShortFile {
   std::size_t lines;
   std::vector<std::string> choices;
@@ -159,8 +157,6 @@ INSTANTIATE_TEST_SUITE_P(
         ShortFile{8, {"Face", "0", "0", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
         ShortFile{9, otherChoices}),
     [](const auto& info) { return std::to_string(info.param.lines); });
-
-// --- numbers ---------------------------------------------------------------------------------------------------------
 
 struct NumberText {
   const char* description;
@@ -249,8 +245,6 @@ INSTANTIATE_TEST_SUITE_P(Texts, BadSavedNumber,
                                            BadNumber{"TooSmall", "-2147483649", outOfRange},
                                            BadNumber{"TooLong", "99999999999999999999999", outOfRange}),
                          [](const auto& info) { return std::string(info.param.description); });
-
-// --- names -----------------------------------------------------------------------------------------------------------
 
 struct SavedName {
   const char* description;

@@ -67,8 +67,6 @@ TEST_F(SettingsSaving, HappensOnApplyOnly) {
   EXPECT_FALSE(folder.has(settingsFile()));
 }
 
-// --- the values ------------------------------------------------------------------------------------------------------
-
 struct FilterModeCase {
   const char* label;
   const char* pickable;
@@ -161,8 +159,6 @@ TEST_F(SettingsSaving, ReadsTheDialogInTheOrderOfTheLines) {
                   "GroupCommandInput(idGroupMaterial).isEnabledCheckBoxChecked()"));
 }
 
-// --- the file as it was before ---------------------------------------------------------------------------------------
-
 struct FileBefore {
   const char* description;
   std::string before;
@@ -210,8 +206,6 @@ TEST_F(SettingsSaving, NeverFillsAnEmptyFile) {
   apply();
   EXPECT_EQ(savedSettings(), "");
 }
-
-// --- what cannot be written ------------------------------------------------------------------------------------------
 
 TEST_F(SettingsSaving, DoesNotReportAFileThatCannotBeWritten) {
   startDialog();
@@ -278,8 +272,6 @@ TEST(SettingsRoutines, RaiseWithoutAnApplication) {
   EXPECT_THROW(tintora::saveCommandSettings(), std::exception);
   EXPECT_THROW(tintora::loadCommandSettings(), std::exception);
 }
-
-// --- users -----------------------------------------------------------------------------------------------------------
 
 TEST_F(SettingsSaving, KeepsAFileForEachUser) {
   startDialog();

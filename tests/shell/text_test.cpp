@@ -16,8 +16,6 @@ wchar_t unit(unsigned int value) {
   return static_cast<wchar_t>(value);
 }
 
-// --- toUtf8 ----------------------------------------------------------------------------------------------------------
-
 struct Utf8Case {
   const char* description;
   std::wstring wide;
@@ -58,8 +56,6 @@ TEST(Utf8, RaisesAboveTheLastCodePoint) {
   EXPECT_THROW(toUtf8(std::wstring(1, unit(0x110000))), std::range_error);
 }
 
-// --- the ANSI code page ----------------------------------------------------------------------------------------------
-
 TEST(AnsiText, BecomesWideAndBack) {
   for (const std::wstring& text : {std::wstring(), std::wstring(L"C:\\Add-ins\\Tintora.dll"),
                                    std::wstring{L'G', L'r', unit(0xFC), L'n'}, std::wstring(1000, L'x')}) {
@@ -75,8 +71,6 @@ TEST(AnsiText, KeepsAsciiByteForByte) {
 TEST(AnsiText, ShowsABlankForACharacterThatTheCodePageLacks) {
   EXPECT_EQ(toAnsi({L'a', unit(0xD800), L'z'}), "a z");
 }
-
-// --- splitString -----------------------------------------------------------------------------------------------------
 
 struct SplitCase {
   const char* description;
@@ -102,8 +96,6 @@ INSTANTIATE_TEST_SUITE_P(Texts, Split,
                                            SplitCase{"DelimiterLongerThanText", "a", "--", {}},
                                            SplitCase{"NoDelimiterGiven", "abc", "", {}}),
                          [](const auto& info) { return std::string(info.param.description); });
-
-// --- formatWholeNumber -----------------------------------------------------------------------------------------------
 
 struct NumberCase {
   const char* description;
@@ -140,8 +132,6 @@ TEST(WholeNumber, IsTheSameInAnyLocale) {
   std::locale::global(before);
   EXPECT_EQ(text, "1234567");
 }
-
-// --- contains --------------------------------------------------------------------------------------------------------
 
 TEST(Contains, FindsThePartAnywhereByteForByte) {
   EXPECT_TRUE(contains("my_RAL_COLORS_2", "RAL_COLORS"));

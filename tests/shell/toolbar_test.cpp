@@ -10,8 +10,6 @@ using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-// --- what is registered ----------------------------------------------------------------------------------------------
-
 struct ExpectedButton {
   const char* tab;
   const char* panelId;
@@ -121,8 +119,6 @@ TEST_F(Toolbar, PanelIsMadeOnlyOnTheTabThatLacksIt) {
   ASSERT_TRUE(session().runAddIn());
   EXPECT_THAT(callsWith(host().gate(), {".add(\"id_QV"}), ElementsAre(StartsWith("ToolbarPanels(SolidTab).add(")));
 }
-
-// --- what the host may lack at the start -----------------------------------------------------------------------------
 
 TEST_F(Toolbar, NothingIsMadeWithoutTheWorkspace) {
   load();

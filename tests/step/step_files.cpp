@@ -20,7 +20,7 @@ std::string dataFolder() {
   return folder != nullptr && *folder != '\0' ? folder : TINTORA_STEP_DATA_DIR;
 }
 
-/// The packaged file, unpacked once per process when it is packed.
+/// The packaged file, unpacked once per process when it is packed. Tests run side by side, so it is put in place whole.
 fs::path findPackagedFile() {
   const fs::path plain = fs::path(packageFolder) / packagedFile;
   if (fs::exists(plain)) {
@@ -31,7 +31,9 @@ fs::path findPackagedFile() {
     return {};
   }
   const fs::path unpacked = fs::path(::testing::TempDir()) / ("unpacked-" + std::string(packagedFile));
-  static const int status = std::system(("gzip -dc '" + packed.string() + "' > '" + unpacked.string() + "'").c_str());
+  const std::string target = "'" + unpacked.string() + "'";
+  static const int status = std::system(
+      ("gzip -dc '" + packed.string() + "' > " + target + ".$$ && mv -f " + target + ".$$ " + target).c_str());
   return status == 0 ? unpacked : fs::path();
 }
 
