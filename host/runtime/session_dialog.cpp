@@ -303,7 +303,7 @@ Kind& Session::usableInput(const std::string& inputId, const char* whatFor) cons
 }
 
 void Session::requireUsable(const InputCore& input, const char* whatFor) const {
-  std::string action = "cannot " + std::string(whatFor) + " " + input.inputId() + ": ";
+  const std::string action = "cannot " + std::string(whatFor) + " " + input.inputId() + ": ";
   requireReachable(input, action);
   if (!input.enabled) {
     throw UserError(action + "it is greyed out");
@@ -328,7 +328,7 @@ void Session::requireReachable(const InputCore& input, const std::string& action
       throw UserError(action + theGroup + " is closed");
     }
     if (group->tickDisplayed && !group->ticked) {
-      throw UserError(action.append("the box of ").append(theGroup).append(" is not ticked"));
+      throw UserError(std::string(action).append("the box of ").append(theGroup).append(" is not ticked"));
     }
   }
 }
