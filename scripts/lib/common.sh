@@ -17,7 +17,8 @@ fail() {
 }
 
 # What building the add-in and the headless host takes.
-build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libpng-dev libocct-data-exchange-dev libtbb-dev gmsh-doc)
+build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libpng-dev libocct-data-exchange-dev
+  libfontconfig-dev libtbb-dev gmsh-doc)
 # What testing takes besides.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev binutils python3 git ca-certificates)
 # What the checks with the second compiler take besides.
