@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <iostream>
 
 namespace headless::cli {
 
@@ -22,6 +23,8 @@ ProgressStyle progressStyle(bool isQuiet) {
 
 ProgressLine::ProgressLine(ProgressStyle progressStyle, const std::string& doing, const std::string& fileName)
     : style(progressStyle), subject(doing + " " + fileName) {
+  // What was printed so far comes first, also where both streams end in one file.
+  std::cout.flush();
   if (style == ProgressStyle::Lines) {
     std::fprintf(stderr, "%s\n", subject.c_str());
   }

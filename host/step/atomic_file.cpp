@@ -12,10 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void fail(const fs::path& target, const std::string& why, const std::string& help) {
-  throw Error("Cannot write \"" + target.u8string() + "\": " + why + ". " + help);
-}
-
 /// A folder name that nobody else uses at the same time.
 std::string temporaryName(const fs::path& target) {
   std::random_device random;
@@ -24,19 +20,24 @@ std::string temporaryName(const fs::path& target) {
 
 }  // namespace
 
+void failToWrite(const fs::path& file, const std::string& why, const std::string& help) {
+  throw Error("Cannot write \"" + file.u8string() + "\": " + why + ". " + help);
+}
+
 AtomicFile::AtomicFile(fs::path destination) : target(std::move(destination)) {
   const fs::path parent = target.has_parent_path() ? target.parent_path() : fs::path(".");
   std::error_code error;
   if (!target.has_filename() || fs::is_directory(target, error)) {
-    fail(target, "that is a folder", "Give a file name.");
+    failToWrite(target, "that is a folder", "Give a file name.");
   }
   if (!fs::is_directory(parent, error)) {
-    fail(target, "the folder \"" + parent.u8string() + "\" does not exist", "Create it or choose another folder.");
+    failToWrite(target, "the folder \"" + parent.u8string() + "\" does not exist",
+                "Create it or choose another folder.");
   }
   folder = parent / fs::u8path(temporaryName(target));
   if (!fs::create_directory(folder, error)) {
-    fail(target, "the folder \"" + parent.u8string() + "\" cannot be written (" + error.message() + ")",
-         "Choose another folder or change its permissions.");
+    failToWrite(target, "the folder \"" + parent.u8string() + "\" cannot be written (" + error.message() + ")",
+                "Choose another folder or change its permissions.");
   }
   temporary = folder / target.filename();
 }
@@ -50,8 +51,8 @@ void AtomicFile::commit() {
   std::error_code error;
   fs::rename(temporary, target, error);
   if (error) {
-    fail(target, "the finished file cannot be put in place (" + error.message() + ")",
-         "Close programs that have the file open and check its permissions.");
+    failToWrite(target, "the finished file cannot be put in place (" + error.message() + ")",
+                "Close programs that have the file open and check its permissions.");
   }
 }
 

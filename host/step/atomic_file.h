@@ -6,6 +6,9 @@
 
 namespace headless::step {
 
+/// Raises Error: what cannot be written, why, and what would help.
+[[noreturn]] void failToWrite(const std::filesystem::path& file, const std::string& why, const std::string& help);
+
 /// A file under construction, in a temporary folder beside its destination so that it can be moved into place in one
 /// step. Until then an earlier file of that name stays as it is; without commit() nothing remains.
 class AtomicFile {

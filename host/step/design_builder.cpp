@@ -16,8 +16,6 @@
 
 namespace headless::step {
 
-namespace {
-
 /// What a product says about itself.
 struct ProductText {
   std::string name;
@@ -25,6 +23,8 @@ struct ProductText {
 };
 
 using ProductTexts = NCollection_DataMap<TDF_Label, ProductText, TDF_LabelMapHasher>;
+
+namespace {
 
 std::size_t placeKey(const model::Component& parent, const model::Component& child, const TopLoc_Location& place) {
   const std::hash<const void*> address;

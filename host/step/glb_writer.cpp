@@ -11,17 +11,12 @@
 #include "host/step/atomic_file.h"
 #include "host/step/design_walk.h"
 #include "host/step/document.h"
-#include "host/step/error.h"
 #include "host/step/kernel_session.h"
 #include "host/step/scene.h"
 
 namespace headless::step {
 
 namespace {
-
-[[noreturn]] void fail(const std::filesystem::path& file, const std::string& why, const std::string& help) {
-  throw Error("Cannot write \"" + file.u8string() + "\": " + why + ". " + help);
-}
 
 /// What every colour is made of: viewers take it for bare metal when nothing is said.
 XCAFPrs_Style paint() {
@@ -55,7 +50,7 @@ void writeChecked(const model::Design& design, const std::filesystem::path& file
   Document document;
   fillScene(design, document);
   if (!save(document, output.path(), progress)) {
-    fail(file, "the disk refused the data", "Free some space or choose another folder.");
+    failToWrite(file, "the disk refused the data", "Free some space or choose another folder.");
   }
   output.commit();
 }
@@ -68,8 +63,8 @@ void writeGlb(const model::Design& design, const std::filesystem::path& file, co
   try {
     writeChecked(design, file, progress, quality);
   } catch (const Standard_Failure& failure) {
-    fail(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
-         "Leave out parts until it works, and report the part.");
+    failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
+                "Leave out parts until it works, and report the part.");
   }
 }
 

@@ -12,7 +12,6 @@
 
 #include "host/step/atomic_file.h"
 #include "host/step/design_walk.h"
-#include "host/step/error.h"
 #include "host/step/kernel_session.h"
 #include "host/step/material_writer.h"
 #include "host/step/product_writer.h"
@@ -22,10 +21,6 @@
 namespace headless::step {
 
 namespace {
-
-[[noreturn]] void fail(const std::filesystem::path& file, const std::string& why, const std::string& help) {
-  throw Error("Cannot write \"" + file.u8string() + "\": " + why + ". " + help);
-}
 
 void describe(const Handle(StepData_StepModel) & entities, const std::filesystem::path& file) {
   APIHeaderSection_MakeHeader header(entities);
@@ -45,7 +40,7 @@ void save(const Handle(XSControl_WorkSession) & session, const std::filesystem::
   const bool isPrinted = writer.Print(text);
   output.close();
   if (!isPrinted || !text || !output) {
-    fail(path, "the disk refused the data", "Free some space or choose another folder.");
+    failToWrite(path, "the disk refused the data", "Free some space or choose another folder.");
   }
 }
 
@@ -69,8 +64,8 @@ void write(const model::Design& design, const std::filesystem::path& file, const
   try {
     writeChecked(design, file, progress);
   } catch (const Standard_Failure& failure) {
-    fail(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
-         "Leave out parts until it works, and report the part.");
+    failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
+                "Leave out parts until it works, and report the part.");
   }
 }
 

@@ -18,7 +18,8 @@ struct Cursor {
 /// The cursor as it is now.
 Cursor cursor();
 
-/// Paths of the files that were to be opened with the program that belongs to them, whether they exist or not.
+/// Paths of the files that were opened, in a window of normal size, with the program that belongs to them. A file that
+/// is not there opens nothing.
 std::vector<std::string> openedFiles();
 
 /// Arrow, count 0, nothing opened.

@@ -155,11 +155,21 @@ int ShowCursor(BOOL show) {
   return desktopState().displayCount += show != FALSE ? 1 : -1;
 }
 
-HINSTANCE ShellExecuteA(HWND, LPCSTR, LPCSTR file, LPCSTR, LPCSTR, INT) {
+HINSTANCE ShellExecuteA(HWND, LPCSTR operation, LPCSTR file, LPCSTR, LPCSTR, INT show) {
   constexpr std::size_t fileNotFound = 2;
+  constexpr std::size_t noSuchOperation = 31;
   constexpr std::size_t opened = 33;
-  desktopState().opened.emplace_back(file);
-  return reinterpret_cast<HINSTANCE>(std::filesystem::exists(file) ? opened : fileNotFound);
+  const auto answer = [](std::size_t code) { return reinterpret_cast<HINSTANCE>(code); };
+  if (!std::filesystem::exists(file)) {
+    return answer(fileNotFound);
+  }
+  if (operation != nullptr && std::string(operation) != "open") {
+    return answer(noSuchOperation);
+  }
+  if (show == SW_SHOWNORMAL) {
+    desktopState().opened.emplace_back(file);
+  }
+  return answer(opened);
 }
 
 }  // extern "C"

@@ -51,7 +51,8 @@ HCURSOR SetCursor(HCURSOR cursor);
 /// Raises or lowers the display count and gives the new one.
 int ShowCursor(BOOL show);
 
-/// Opens a file with the program that belongs to it; above 32 on success, else an error number (2: not found).
+/// Opens a file with the program that belongs to it; above 32 on success, else an error number (2: not found, 31: the
+/// program knows no such operation).
 HINSTANCE ShellExecuteA(HWND window, LPCSTR operation, LPCSTR file, LPCSTR parameters, LPCSTR directory, INT show);
 
 }  // extern "C"

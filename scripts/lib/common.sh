@@ -92,6 +92,12 @@ show_progress() {
   [ ! -t 1 ] || printf '\r%40s\r' ''
 }
 
+# configure_tree FOLDER CMAKE_OPTIONS...
+configure_tree() {
+  cmake -G Ninja -S . -B "$1" $(launcher_options) "${@:2}" >"$log_folder/configure.log" 2>&1 ||
+    { cat "$log_folder/configure.log" >&2; fail "Configuring $1 failed"; }
+}
+
 # build_tree FOLDER TARGETS... -- CMAKE_OPTIONS...
 # Configures and builds; shows the progress, and the whole log of what failed.
 build_tree() {
@@ -102,8 +108,7 @@ build_tree() {
     shift
   done
   shift
-  cmake -G Ninja -S . -B "$folder" $(launcher_options) "$@" >"$log_folder/configure.log" 2>&1 ||
-    { cat "$log_folder/configure.log" >&2; fail "Configuring $folder failed"; }
+  configure_tree "$folder" "$@"
   NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" "${targets[@]}" >"$log_folder/build.log" 2>&1 &
   local builder=$!
   show_progress $builder "$log_folder/build.log" '\[[0-9]+/[0-9]+\]'

@@ -166,12 +166,15 @@ TEST_F(Desktop, CountsHowOftenTheCursorIsShown) {
 
 TEST_F(Desktop, RemembersTheFilesThatWereOpened) {
   const std::string folder = std::filesystem::temp_directory_path().string();
-  const auto open = [](const std::string& file) {
-    return reinterpret_cast<std::size_t>(ShellExecuteA(nullptr, "open", file.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+  const auto execute = [](const char* operation, const std::string& file, int show) {
+    return reinterpret_cast<std::size_t>(ShellExecuteA(nullptr, operation, file.c_str(), nullptr, nullptr, show));
   };
-  EXPECT_GT(open(folder), 32U);
-  EXPECT_EQ(open("no such file.html"), 2U);
-  EXPECT_EQ(desktop::openedFiles(), std::vector<std::string>({folder, "no such file.html"}));
+  EXPECT_GT(execute("open", folder, SW_SHOWNORMAL), 32U);
+  EXPECT_EQ(execute("open", "no such file.html", SW_SHOWNORMAL), 2U);
+  EXPECT_EQ(execute("print", folder, SW_SHOWNORMAL), 31U);
+  constexpr int hidden = 0;
+  EXPECT_GT(execute("open", folder, hidden), 32U);
+  EXPECT_EQ(desktop::openedFiles(), std::vector<std::string>({folder}));
   desktop::reset();
   EXPECT_TRUE(desktop::openedFiles().empty());
 }

@@ -26,19 +26,19 @@ void PrintTo(const RemoveCase& value, std::ostream* stream) {
   *stream << value.name;
 }
 
-std::shared_ptr<const headless::model::Appearance> red() {
+std::shared_ptr<const headless::model::Appearance> redLook() {
   return std::make_shared<const headless::model::Appearance>(
       headless::model::Appearance{"red", "Red", {200, 0, 0, 255}});
 }
 
 auto paintedOccurrence(const std::string& path) {
-  return [path](Design& design) { occurrenceAt(design, path).appearance = red(); };
+  return [path](Design& design) { occurrenceAt(design, path).appearance = redLook(); };
 }
 auto paintedBody(const std::string& component, const std::string& body) {
-  return [=](Design& design) { bodyNamed(design, component, body).appearance = red(); };
+  return [=](Design& design) { bodyNamed(design, component, body).appearance = redLook(); };
 }
 auto paintedFace(const std::string& component, const std::string& body, std::size_t face) {
-  return [=](Design& design) { bodyNamed(design, component, body).faces[face]->appearance = red(); };
+  return [=](Design& design) { bodyNamed(design, component, body).faces[face]->appearance = redLook(); };
 }
 void nothingPainted(Design& /*design*/) {}
 
@@ -216,6 +216,21 @@ TEST_F(InventoryInterrupted, OccurrencesBelowAreRecordedAfterTheirChildren) {
   EXPECT_THROW(collect({root()}), std::exception);
   ASSERT_EQ(taken().occurrences.size(), 1U);
   EXPECT_EQ(taken().occurrences.begin()->second, "Plate");
+}
+
+TEST_F(InventoryInterrupted, ChildIsDoneWithBeforeTheNextIsAskedFor) {
+  // The first item is Frame:1, then come its children Plate:1 and Bolt:1.
+  answerNothingAt("OccurrenceList.item", 3);
+  EXPECT_THROW(collect({root()}), std::exception);
+  EXPECT_EQ(taken().occurrences.size(), 1U);
+  EXPECT_EQ(taken().bodies.size(), 1U);
+  EXPECT_EQ(taken().faces.size(), 1U);
+}
+
+TEST_F(InventoryInterrupted, EntityWithoutAClassTextIsOfNoKind) {
+  answerNothingAt("Occurrence.objectType", 1);
+  collect({occurrenceOf("Frame:1")});
+  EXPECT_TRUE(tintora::appliedAppearances.empty());
 }
 
 TEST_F(InventoryInterrupted, BodyIsRecordedBeforeItsFaces) {

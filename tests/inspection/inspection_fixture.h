@@ -19,6 +19,9 @@ namespace tests {
 /// The exception of an empty handle as the host's boundary names it.
 inline const std::vector<std::string> nullAccess = {"std::exception"};
 
+/// What the dialog says of a body without a material of its own.
+inline constexpr const char* steelText = "Physical material: <b>Steel</b>;  Density: 7850 kg.m<sup>-3</sup>";
+
 class InspectionTest : public AddInTest {
  protected:
   using Entity = adsk::core::Ptr<adsk::core::Base>;

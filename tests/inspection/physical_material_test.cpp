@@ -16,8 +16,6 @@ using headless::model::makeMaterial;
 using headless::model::Material;
 using headless::model::MaterialProperty;
 
-constexpr const char* steelText = "Physical material: <b>Steel</b>;  Density: 7850 kg.m<sup>-3</sup>";
-
 std::shared_ptr<const Material> materialOf(const std::string& name, double density) {
   return makeMaterial(name, density, headless::model::defaultMaterial()->appearance);
 }

@@ -9,7 +9,6 @@ namespace {
 using headless::model::makeMaterial;
 
 constexpr const char* untouchedText = "<b>Steel - Satin</b> - appearance by assigned material.";
-constexpr const char* steelText = "Physical material: <b>Steel</b>;  Density: 7850 kg.m<sup>-3</sup>";
 
 class SelectionInfo : public InspectionTest {
  protected:

@@ -15,7 +15,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* red = "RAL 3000 Flame red";
 constexpr const char* aboutFaces = "Remove appearances applied to faces?";
 constexpr const char* aboutBodiesAndFaces = "Remove appearances applied to bodies & faces?";
 constexpr const char* rootNotice =
@@ -294,6 +293,19 @@ TEST_F(AppearanceAssignment, KnowsTheRootComponentWhereEveryHandleIsNew) {
   pickComponent(session(), design().root());
   EXPECT_THAT(apply(), IsEmpty());
   EXPECT_EQ(session().messageBoxes().size(), 1U);
+}
+
+TEST_F(AppearanceAssignment, TakesAComponentNamedLikeTheRootForTheRoot) {
+  auto design = machine();
+  headless::model::Component& namesake = design->addComponent("Namesake");
+  namesake.name = design->root().name;
+  design->root().addInstance(namesake);
+  start(std::move(design));
+  openForAppearance();
+  pickComponent(session(), namesake);
+  EXPECT_THAT(apply(), IsEmpty());
+  ASSERT_EQ(session().messageBoxes().size(), 1U);
+  EXPECT_EQ(session().messageBoxes().front().text, rootNotice);
 }
 
 TEST_F(AppearanceAssignment, GoesOnAfterTheNoticeAboutTheRootComponent) {

@@ -13,7 +13,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* red = "RAL 3000 Flame red";
 constexpr const char* foam = "Foam";
 
 class Assignment : public AddInTest {

@@ -15,9 +15,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* apply = "idBtnApply";
-constexpr const char* removal = "idRemoveAssignAppearance";
-
 /// The body "Base" shows a look of its own; either button changes that.
 template <class Fixture>
 class WithPaintedBase : public Fixture {
@@ -38,7 +35,7 @@ class WithPaintedBase : public Fixture {
 };
 
 std::string lookAfter(const std::string& button) {
-  return button == apply ? "RAL 3000 Flame red" : "";
+  return button == applyButton ? "RAL 3000 Flame red" : "";
 }
 
 class Commit : public WithPaintedBase<AddInTest>, public ::testing::WithParamInterface<std::string> {
@@ -51,11 +48,11 @@ TEST_P(Commit, DisablesApplyAndAfterARemovalTheRemoveButtonToo) {
   Profile profile;
   profile.editClearsSelection = EditClearsSelection::Never;
   openWithBasePicked(profile);
-  ASSERT_TRUE(isEnabled(apply));
-  ASSERT_TRUE(isEnabled(removal));
+  ASSERT_TRUE(isEnabled(applyButton));
+  ASSERT_TRUE(isEnabled(removeButton));
   session().click(button());
-  EXPECT_FALSE(isEnabled(apply));
-  EXPECT_EQ(isEnabled(removal), button() == apply);
+  EXPECT_FALSE(isEnabled(applyButton));
+  EXPECT_EQ(isEnabled(removeButton), button() == applyButton);
 }
 
 TEST_P(Commit, ExecutesWithoutEndingAsItsLastCall) {
@@ -89,7 +86,7 @@ TEST_P(Commit, LeavesTheDialogOpen) {
   EXPECT_EQ(activeCommand(), command);
   EXPECT_TRUE(session().isDialogOpen());
   session().pick("Base");
-  EXPECT_TRUE(isEnabled(apply));
+  EXPECT_TRUE(isEnabled(applyButton));
 }
 
 TEST_P(Commit, OpensANewDialogWhereTheHostEndsTheCommand) {
@@ -104,7 +101,7 @@ TEST_P(Commit, OpensANewDialogWhereTheHostEndsTheCommand) {
   EXPECT_EQ(history().undoSteps().size(), 1U);
   EXPECT_THAT(host().gate().misuses(), IsEmpty());
   session().pick("Base");
-  EXPECT_TRUE(isEnabled(apply));
+  EXPECT_TRUE(isEnabled(applyButton));
 }
 
 TEST_P(Commit, CallsNothingAfterTheHostEndedTheCommand) {
@@ -141,7 +138,7 @@ TEST_P(Commit, IgnoresThatExecutingIsRefused) {
   EXPECT_EQ(baseLook(), lookAfter(button()));
   EXPECT_THAT(history().undoSteps(), IsEmpty());
   EXPECT_TRUE(session().isDialogOpen());
-  EXPECT_FALSE(isEnabled(apply));
+  EXPECT_FALSE(isEnabled(applyButton));
 }
 
 TEST_P(Commit, WhatWasNotExecutedIsRolledBackByCancel) {
@@ -168,24 +165,24 @@ TEST_P(Commit, DoesNotHappenAfterAnError) {
   const Lines reaction = reactionTo(button(), traceOf(session(), [&] { session().click(button()); }));
   EXPECT_THAT(takeErrors(), ElementsAre(HasSubstr("inputChanged(" + button() + "): std::runtime_error")));
   EXPECT_THAT(containing("doExecute", reaction), IsEmpty());
-  EXPECT_TRUE(isEnabled(apply));
-  EXPECT_TRUE(isEnabled(removal));
+  EXPECT_TRUE(isEnabled(applyButton));
+  EXPECT_TRUE(isEnabled(removeButton));
   EXPECT_EQ(baseLook(), "Old paint");
 }
 
-INSTANTIATE_TEST_SUITE_P(Buttons, Commit, ::testing::Values(apply, removal),
+INSTANTIATE_TEST_SUITE_P(Buttons, Commit, ::testing::Values(applyButton, removeButton),
                          [](const auto& info) { return info.param; });
 
 class CommitUnderProfile : public WithPaintedBase<AddInUnderProfile> {};
 
 TEST_P(CommitUnderProfile, ApplyAndRemoveAreOneUndoStepEach) {
   openWithBasePicked(profile());
-  session().click(apply);
+  session().click(applyButton);
   EXPECT_EQ(baseLook(), "RAL 3000 Flame red");
   if (session().picked().empty()) {
     session().pick("Base");
   }
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_EQ(baseLook(), "");
   EXPECT_EQ(history().undoSteps().size(), 2U);
   session().undo();

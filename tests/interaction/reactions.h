@@ -13,6 +13,11 @@ namespace tests {
 
 using Lines = std::vector<std::string>;
 
+inline constexpr const char* applyButton = "idBtnApply";
+inline constexpr const char* removeButton = "idRemoveAssignAppearance";
+/// A colour of the fixture's library.
+inline constexpr const char* red = "RAL 3000 Flame red";
+
 /// The host calls that an action causes, one a line, each indented by two blanks for every call that it lies within.
 Lines traceOf(headless::Session& session, const std::function<void()>& action);
 

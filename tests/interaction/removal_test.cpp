@@ -11,8 +11,6 @@ using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr const char* removal = "idRemoveAssignAppearance";
-
 /// Every kind of object carries a look of its own, at every depth.
 template <class Fixture>
 class WithPaintedMachine : public Fixture {
@@ -34,7 +32,7 @@ class WithPaintedMachine : public Fixture {
   }
 
   Lines editsOfRemove() {
-    return editsIn(traceOf(this->session(), [&] { this->session().click(removal); }));
+    return editsIn(traceOf(this->session(), [&] { this->session().click(removeButton); }));
   }
 
   /// Paths and names of everything that carries a look of its own; faces are counted by body, as in "Head#1".
@@ -114,7 +112,7 @@ TEST_F(Removal, OfAnOccurrenceClearsEveryDepthParentsFirst) {
 TEST_F(Removal, OfAnOccurrenceLeavesWhatIsBesideIt) {
   openPainted();
   pickAll(session(), "Component", {"Frame:1"});
-  session().click(removal);
+  session().click(removeButton);
   // Bodies and faces belong to the components, which "Frame:2" and "Bolt:2" share.
   EXPECT_THAT(painted(), ElementsAre("Frame:2", "Frame:2+Plate:1", "Frame:2+Bolt:1", "Bolt:2", "Base", "Base#2"));
 }
@@ -144,10 +142,10 @@ TEST_F(Removal, OfAnotherComponentClearsThatComponentsOccurrences) {
 TEST_F(Removal, OfAFaceClearsNothing) {
   openPainted();
   pickAll(session(), "Face", {"Base/Face1", "Bolt:2/Head/Face1"});
-  ASSERT_TRUE(isEnabled(removal));
+  ASSERT_TRUE(isEnabled(removeButton));
   EXPECT_THAT(editsOfRemove(), IsEmpty());
   EXPECT_EQ(painted(), everything);
-  EXPECT_FALSE(isEnabled(removal));
+  EXPECT_FALSE(isEnabled(removeButton));
   EXPECT_FALSE(isEnabled("idBtnApply"));
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
@@ -160,7 +158,7 @@ TEST_F(Removal, OfAFaceRecordsItsLookForTheNextApply) {
   openDialog();
   pickAll(session(), "Face", {"Base/Face1", "Base/Face2"});
   base.faces[1]->appearance = look("Second paint");
-  session().click(removal);
+  session().click(removeButton);
   session().type("idFilterAppearance", "red");
   const Lines edits = editsIn(traceOf(session(), [&] { session().click("idBtnApply"); }));
   ASSERT_GE(edits.size(), 2U);
@@ -178,7 +176,7 @@ TEST_F(Removal, OfAFaceDoesNotRecordWhatIsNotItsOwn) {
   openDialog();
   pickAll(session(), "Face", {"Base/Face1", "Base/Face2"});
   base.appearance = look("Body paint");
-  session().click(removal);
+  session().click(removeButton);
   session().type("idFilterAppearance", "red");
   session().click("idBtnApply");
   EXPECT_EQ(ownLook(*base.faces[0]), "First paint");
@@ -197,9 +195,9 @@ TEST_F(Removal, TakesSeveralEntitiesInTheOrderInWhichTheyWerePicked) {
 
 TEST_F(Removal, OfNothingDoesNothing) {
   openPainted();
-  const Lines trace = traceOf(session(), [&] { raiseChangeOf(session(), removal); });
+  const Lines trace = traceOf(session(), [&] { raiseChangeOf(session(), removeButton); });
   EXPECT_THAT(editsIn(trace), IsEmpty());
-  EXPECT_EQ(reactionTo(removal, trace).back(), "Command(idAssetsMatMng).doExecute(false) -> true");
+  EXPECT_EQ(reactionTo(removeButton, trace).back(), "Command(idAssetsMatMng).doExecute(false) -> true");
   EXPECT_EQ(painted(), everything);
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
@@ -207,14 +205,14 @@ TEST_F(Removal, OfNothingDoesNothing) {
 TEST_F(Removal, AsksNothing) {
   openPainted();
   pickAll(session(), "Component", {"Frame:1"});
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
 
 TEST_F(Removal, SavesNoChoices) {
   openPainted();
   session().pick("Base");
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_FALSE(folder.has(settingsFile()));
 }
 
@@ -223,7 +221,7 @@ TEST_F(Removal, IsDoneThoughTheSelectionIsClearedAtTheFirstChange) {
   profile.editClearsSelection = headless::EditClearsSelection::AtOnce;
   openPainted(profile);
   pickAll(session(), "Component", {"Frame:1", "Frame:2", "Bolt:2"});
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_THAT(painted(), ElementsAre("Base", "Base#2"));
   EXPECT_THAT(host().gate().misuses(), IsEmpty());
 }
@@ -232,7 +230,7 @@ TEST_F(Removal, KeepsWhatWasClearedBeforeAnErrorUntilTheCommandIsCancelled) {
   openPainted();
   pickAll(session(), "Component", {"Frame:1"});
   host().gate().setFault({3, FaultAnswer::Exception, "Occurrence.appearance="});
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_THAT(takeErrors(), ElementsAre(HasSubstr("std::runtime_error")));
   EXPECT_EQ(ownLook(occurrence("Frame:1")), "");
   EXPECT_EQ(ownLook(occurrence("Frame:1+Plate:1")), "");
@@ -254,7 +252,7 @@ TEST_P(MissingObjects, ArePassedOver) {
   openPainted();
   pickAll(session(), "Component", {"Frame:1"});
   host().gate().setFault({1, FaultAnswer::Nothing, GetParam().call});
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_TRUE(host().gate().faultStruck());
   Lines left;
   for (const std::string& each : painted()) {
@@ -292,11 +290,11 @@ class RemovalUnderProfile : public WithPaintedMachine<AddInUnderProfile> {};
 TEST_P(RemovalUnderProfile, OfAnOccurrenceIsOneUndoStepThatBringsEverythingBack) {
   openPainted(profile());
   pickAll(session(), "Component", {"Frame:1"});
-  ASSERT_TRUE(isEnabled(removal));
-  session().click(removal);
+  ASSERT_TRUE(isEnabled(removeButton));
+  session().click(removeButton);
   const Lines rest = {"Frame:2", "Frame:2+Plate:1", "Frame:2+Bolt:1", "Bolt:2", "Base", "Base#2"};
   EXPECT_EQ(painted(), rest);
-  EXPECT_FALSE(isEnabled(removal));
+  EXPECT_FALSE(isEnabled(removeButton));
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
   EXPECT_EQ(history().undoSteps().size(), 1U);
   session().undo();
@@ -309,7 +307,7 @@ TEST_P(RemovalUnderProfile, OfAnOccurrenceIsOneUndoStepThatBringsEverythingBack)
 TEST_P(RemovalUnderProfile, OfTheRootComponentClearsAllOccurrences) {
   openPainted(profile());
   pickComponent(session(), design().root());
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_THAT(painted(), ElementsAre("Base", "Base#2"));
   session().undo();
   EXPECT_EQ(painted(), everything);
@@ -318,7 +316,7 @@ TEST_P(RemovalUnderProfile, OfTheRootComponentClearsAllOccurrences) {
 TEST_P(RemovalUnderProfile, OfAFaceLeavesItsLook) {
   openPainted(profile());
   pickAll(session(), "Face", {"Base/Face1"});
-  session().click(removal);
+  session().click(removeButton);
   EXPECT_EQ(painted(), everything);
   EXPECT_TRUE(session().isDialogOpen());
 }

@@ -12,8 +12,6 @@ using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAreArray;
 
-constexpr const char* red = "RAL 3000 Flame red";
-
 /// The bolt "Bolt:2" carries looks on the occurrence, on a body and on a face.
 template <class Fixture>
 class WithPaintedBolt : public Fixture {

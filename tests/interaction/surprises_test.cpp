@@ -12,8 +12,6 @@ using namespace headless;
 using adsk::core::DialogYes;
 using ::testing::IsEmpty;
 
-constexpr const char* red = "RAL 3000 Flame red";
-
 struct Surprise {
   const char* name;
   std::function<void(Profile&)> applyTo;

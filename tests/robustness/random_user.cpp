@@ -167,9 +167,9 @@ class ActionDice {
   std::mt19937 engine;
 };
 
-class Sitting {
+class WatchedSitting {
  public:
-  Sitting(const std::filesystem::path& module, const headless::Profile& profile) : session(profile) {
+  WatchedSitting(const std::filesystem::path& module, const headless::Profile& profile) : session(profile) {
     session.openDesign(paintedMachine());
     session.answerAlways(adsk::core::DialogYes);
     session.loadAddIn(module);
@@ -247,7 +247,7 @@ RandomUser::RandomUser(std::filesystem::path moduleFile, headless::Profile hostP
 
 Names RandomUser::troubleWith(const std::vector<UserAction>& actions) const {
   forgetSettings(module);
-  Sitting sitting(module, profile);
+  WatchedSitting sitting(module, profile);
   for (const UserAction& action : actions) {
     Names trouble = sitting.troubleAfter(action);
     if (check && trouble.empty()) {

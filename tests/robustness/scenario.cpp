@@ -75,10 +75,10 @@ std::vector<std::string> looksOf(const Design& design) {
   return names;
 }
 
-class Sitting {
+class PlayedSitting {
  public:
-  Sitting(const std::filesystem::path& module, const headless::Profile& profile,
-          const std::function<void(headless::Host&)>& prepare)
+  PlayedSitting(const std::filesystem::path& module, const headless::Profile& profile,
+                const std::function<void(headless::Host&)>& prepare)
       : session(profile) {
     session.openDesign(paintedMachine());
     session.answerAlways(adsk::core::DialogYes);
@@ -163,7 +163,7 @@ class Sitting {
 
 Outcome playScenario(const std::filesystem::path& module, const headless::Profile& profile,
                      const std::function<void(headless::Host&)>& prepare) {
-  return Sitting(module, profile, prepare).play();
+  return PlayedSitting(module, profile, prepare).play();
 }
 
 }  // namespace tests

@@ -1,4 +1,10 @@
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+#include <cstdlib>
 #include <ostream>
+#include <stdexcept>
 
 #include "host/libraries/library_file.h"
 #include "shell/command_settings.h"
@@ -215,6 +221,43 @@ TEST_F(SettingsSaving, DoesNotReportAFileThatCannotBeWritten) {
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
   EXPECT_EQ(ownLook(body("Machine", "Base")), "RAL 1000 Green beige");
 }
+
+#ifndef _WIN32
+/// Gives up the rights of the system's administrator, who may read everything, for as long as it lives.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() {
+    constexpr uid_t nobody = 65534;
+    if (isAdministrator && seteuid(nobody) != 0) {
+      throw std::runtime_error("an administrator cannot become an ordinary user");
+    }
+  }
+  ~OrdinaryUser() {
+    if (isAdministrator && seteuid(0) != 0) {
+      std::abort();
+    }
+  }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+ private:
+  bool isAdministrator = geteuid() == 0;
+};
+
+TEST_F(SettingsSaving, LeavesAFileAloneThatCanBeWrittenButNotRead) {
+  startDialog();
+  folder.write(settingsFile(), "kept\n");
+  const fs::path file = folder.path() / settingsFile();
+  fs::permissions(file, fs::perms(0222));
+  {
+    const OrdinaryUser user;
+    apply();
+  }
+  fs::permissions(file, fs::perms(0666));
+  EXPECT_EQ(savedSettings(), "kept\n");
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "RAL 1000 Green beige");
+}
+#endif
 
 TEST_F(SettingsSaving, DoesNotReportAMissingFolder) {
   startDialog();

@@ -111,8 +111,8 @@ TEST_P(WholeNumber, IsRoundedDown) {
 
 INSTANTIATE_TEST_SUITE_P(Numbers, WholeNumber,
                          ::testing::Values(NumberCase{"Fraction", 785.9, "785"}, NumberCase{"Zero", 0, "0"},
-                                           NumberCase{"Whole", 7850, "7850"}, NumberCase{"Negative", -1, ""},
-                                           NumberCase{"BarelyNegative", -1e-9, ""},
+                                           NumberCase{"ZeroWithASign", -0.0, "-0"}, NumberCase{"Whole", 7850, "7850"},
+                                           NumberCase{"Negative", -1, ""}, NumberCase{"BarelyNegative", -1e-9, ""},
                                            NumberCase{"BarelyBelowOne", 0.99999999, "0"},
                                            NumberCase{"BarelyBelowAThousand", 999.9999999, "999"},
                                            NumberCase{"Large", 1234567890123.75, "1234567890123"},

@@ -13,26 +13,39 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
+/// Puts a guide beside the module and gives its path.
+std::string addGuide(const AddInFolder& folder) {
+  folder.write("Tintora_UsersGuide.pdf", "%PDF");
+  return (folder.path() / "Tintora_UsersGuide.pdf").string();
+}
+
 class UsersGuide : public AddInTest {
  protected:
-  std::string guide() const { return (folder.path() / "Tintora_UsersGuide.pdf").string(); }
+  std::string guide = addGuide(folder);
 };
 
 class UsersGuideUnderProfile : public AddInUnderProfile {};
 
-TEST_P(UsersGuideUnderProfile, OpensFromEitherButtonWhetherItIsThereOrNot) {
+TEST_P(UsersGuideUnderProfile, OpensFromEitherButton) {
+  const std::string guide = addGuide(folder);
   start(profile());
-  const std::string guide = (folder.path() / "Tintora_UsersGuide.pdf").string();
   session().press("idOpenHelp");
   EXPECT_THAT(openedFiles(), ElementsAre(guide));
-  folder.write("Tintora_UsersGuide.pdf", "%PDF");
   session().press("idOpenHelpOnTools");
   EXPECT_THAT(openedFiles(), ElementsAre(guide, guide));
   EXPECT_FALSE(session().isDialogOpen());
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
 
+TEST_P(UsersGuideUnderProfile, MissesWithoutAWordWhenItIsNotThere) {
+  start(profile());
+  session().press("idOpenHelp");
+  EXPECT_THAT(openedFiles(), IsEmpty());
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+}
+
 TEST_P(UsersGuideUnderProfile, StaysClosedWhenTheMainCommandExecutes) {
+  addGuide(folder);
   startDialog(profile());
   session().pick("Base");
   host().gate().startTrace();
@@ -46,7 +59,7 @@ INSTANTIATE_UNDER_ALL_PROFILES(UsersGuideUnderProfile);
 TEST_F(UsersGuide, OpensWhileTheDialogIsOpenWhichItEnds) {
   startDialog();
   session().press("idOpenHelp");
-  EXPECT_THAT(openedFiles(), ElementsAre(guide()));
+  EXPECT_THAT(openedFiles(), ElementsAre(guide));
   EXPECT_FALSE(session().isDialogOpen());
 }
 
@@ -55,7 +68,7 @@ TEST_F(UsersGuide, OpensOnceForEachPress) {
   for (int i = 0; i < 3; ++i) {
     session().press("idOpenHelp");
   }
-  EXPECT_THAT(openedFiles(), ElementsAre(guide(), guide(), guide()));
+  EXPECT_THAT(openedFiles(), ElementsAre(guide, guide, guide));
 }
 
 TEST_F(UsersGuide, CommandIsOnlyGivenTheExecuteHandler) {

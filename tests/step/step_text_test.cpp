@@ -17,18 +17,19 @@ std::string escaped(const std::string& content) {
   return target.str();
 }
 
-struct Case {
+struct EncodedText {
   const char* content;
   const char* file;
 };
 
 TEST(StepText, EscapesWhatIsBeyondAscii) {
-  for (const Case& c :
-       {Case{"#1=PRODUCT('bolt');\n", "#1=PRODUCT('bolt');\n"}, Case{"'\xC3\xA9'", "'\\X2\\00E9\\X0\\'"},
-        Case{"'a\xC3\xA9\xC3\xB6z'", "'a\\X2\\00E900F6\\X0\\z'"}, Case{"'\xE2\x82\xAC'", "'\\X2\\20AC\\X0\\'"},
-        Case{"'\xF0\x9F\x94\xA9'", "'\\X4\\0001F529\\X0\\'"},
-        Case{"'\xC3\xA9\xF0\x9F\x94\xA9\xC3\xA9'", "'\\X2\\00E9\\X0\\\\X4\\0001F529\\X0\\\\X2\\00E9\\X0\\'"},
-        Case{"'it''s \xC3\xA9'", "'it''s \\X2\\00E9\\X0\\'"}}) {
+  for (const EncodedText& c :
+       {EncodedText{"#1=PRODUCT('bolt');\n", "#1=PRODUCT('bolt');\n"}, EncodedText{"'\xC3\xA9'", "'\\X2\\00E9\\X0\\'"},
+        EncodedText{"'a\xC3\xA9\xC3\xB6z'", "'a\\X2\\00E900F6\\X0\\z'"},
+        EncodedText{"'\xE2\x82\xAC'", "'\\X2\\20AC\\X0\\'"},
+        EncodedText{"'\xF0\x9F\x94\xA9'", "'\\X4\\0001F529\\X0\\'"},
+        EncodedText{"'\xC3\xA9\xF0\x9F\x94\xA9\xC3\xA9'", "'\\X2\\00E9\\X0\\\\X4\\0001F529\\X0\\\\X2\\00E9\\X0\\'"},
+        EncodedText{"'it''s \xC3\xA9'", "'it''s \\X2\\00E9\\X0\\'"}}) {
     EXPECT_EQ(escaped(c.content), c.file) << c.content;
   }
 }

@@ -74,7 +74,7 @@ std::optional<double> density(double value, const std::vector<std::pair<NamedUni
   return densityFrom(measure);
 }
 
-struct Case {
+struct DensityUnits {
   const char* title;
   double value;
   std::vector<std::pair<NamedUnit, double>> powers;
@@ -85,7 +85,7 @@ TEST(Units, ConvertDensitiesToKilogramPerCubicMetre) {
   const NamedUnit pound = times(0.45359237, with(StepBasic_spKilo, gram()));
   const NamedUnit inch = times(2.54, with(StepBasic_spCenti, metre()));
   const NamedUnit foot = times(12.0, inch);
-  for (const Case& c : std::vector<Case>{
+  for (const DensityUnits& c : std::vector<DensityUnits>{
            {"kg/m3", 7850, {{with(StepBasic_spKilo, gram()), 1}, {metre(), -3}}, 7850},
            {"g/cm3", 7.85, {{gram(), 1}, {with(StepBasic_spCenti, metre()), -3}}, 7850},
            {"t/mm3", 7.85e-9, {{with(StepBasic_spMega, gram()), 1}, {with(StepBasic_spMilli, metre()), -3}}, 7850},
