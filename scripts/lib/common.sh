@@ -21,6 +21,8 @@ build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libpng-dev
   libfontconfig-dev libtbb-dev gmsh-doc)
 # What testing takes besides.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev binutils python3 git ca-certificates)
+# What building the pictures beside the module takes: icons from drawings, swatches of colours.
+picture_packages=(librsvg2-bin python3-pil fonts-dejavu-core)
 # What the checks with the second compiler take besides.
 check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14)
 
