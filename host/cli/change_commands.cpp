@@ -6,6 +6,7 @@
 #include "host/cli/demo.h"
 #include "host/cli/failure.h"
 #include "host/cli/options.h"
+#include "host/cli/picture_files.h"
 #include "host/cli/text_layout.h"
 
 namespace headless::cli {
@@ -53,6 +54,8 @@ struct ApplyOptions : ChangeOptions {
   ItemChoice material;
   bool setsAppearanceByMaterial = false;
   std::string answer;
+  std::filesystem::path picture;
+  std::filesystem::path questionPicture;
 
   Assignment assignment() const {
     Assignment result;
@@ -93,15 +96,29 @@ void reportApply(const Assignment& assignment, const WorkDone& work, PickKind ki
   }
 }
 
+/// The dialog after Apply, with the same objects picked again, and the last question.
+void savePictures(Sitting& sitting, const ApplyOptions& options) {
+  if (!options.questionPicture.empty()) {
+    saveMessagePicture(sitting, options.questionPicture);
+  }
+  if (!options.picture.empty()) {
+    pickInDialog(sitting, options.pick.picks());
+    saveDialogPicture(sitting, "", options.picture);
+  }
+}
+
 void runApply(const ApplyOptions& options) {
   const Assignment assignment = options.assignment();
   if (!assignment.appearance && !assignment.material) {
     throw UsageError("There is nothing to apply: give --appearance, --material or both");
   }
+  requireOtherFile(options.file, options.picture);
+  requireOtherFile(options.file, options.questionPicture);
   changeAndSave(options, [&](Sitting& sitting) {
     prepareAnswers(sitting, options.answer.empty() ? std::nullopt : std::optional<bool>(options.answer == "yes"));
     const Picks picks = options.pick.picks();
     reportApply(assignment, applyInDialog(sitting, picks, assignment), picks.kind);
+    savePictures(sitting, options);
   });
 }
 
@@ -166,6 +183,15 @@ void addAssignmentOptions(CLI::App& command, ApplyOptions& options) {
       ->group(applyGroup);
 }
 
+void addPictureOptions(CLI::App& command, ApplyOptions& options) {
+  const auto add = [&](const char* option, std::filesystem::path& file, const char* description) {
+    command.add_option(option, file, description)->type_name("OUT.svg")->group("Pictures");
+  };
+  add("--picture", options.picture,
+      "Where to save a picture of the dialog after Apply, with the same objects picked again");
+  add("--question-picture", options.questionPicture, "Where to save a picture of the last question that was asked");
+}
+
 }  // namespace
 
 void addApplyCommand(CLI::App& program) {
@@ -174,6 +200,7 @@ void addApplyCommand(CLI::App& program) {
       *program.add_subcommand("apply", "Assign an appearance, a material or both, in the add-in's dialog, and save");
   addObjectOptions(command, *options);
   addAssignmentOptions(command, *options);
+  addPictureOptions(command, *options);
   addRunOptions(command, *options);
   command.callback([options] { runApply(*options); });
 }

@@ -20,6 +20,7 @@ inline constexpr const char* materialText = "idActMaterial";
 inline constexpr const char* appearanceByMaterial = "idKeepAppearance";
 inline constexpr const char* materialLibraries = "idLibMaterials";
 inline constexpr const char* materials = "idMaterialList";
+inline constexpr const char* materialFilter = "idFilterMaterial";
 inline constexpr const char* applyButton = "idBtnApply";
 
 }  // namespace headless::cli::ids

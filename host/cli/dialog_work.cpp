@@ -22,11 +22,13 @@ struct AssignmentInputs {
   const char* group;
   const char* libraries;
   const char* items;
+  const char* filter;
 };
 
 constexpr AssignmentInputs appearanceInputs = {"appearance", ids::appearanceGroup, ids::appearanceLibraries,
-                                               ids::appearances};
-constexpr AssignmentInputs materialInputs = {"material", ids::materialGroup, ids::materialLibraries, ids::materials};
+                                               ids::appearances, ids::appearanceFilter};
+constexpr AssignmentInputs materialInputs = {"material", ids::materialGroup, ids::materialLibraries, ids::materials,
+                                             ids::materialFilter};
 
 std::vector<std::string> namesIn(const InputView& list) {
   std::vector<std::string> names;
@@ -45,6 +47,20 @@ void choose(Session& session, const std::string& inputId, const std::string& nam
   session.choose(inputId, name);
 }
 
+void chooseItem(Session& session, const AssignmentInputs& inputs, const std::string& name) {
+  const std::string library = session.input(inputs.libraries).selectedName();
+  choose(session, inputs.items, name, "The library " + library + " has no " + inputs.what);
+}
+
+void fillIn(Session& session, const AssignmentInputs& inputs, const std::string& filter, const std::string& item) {
+  if (!filter.empty()) {
+    session.type(inputs.filter, filter);
+  }
+  if (!item.empty()) {
+    chooseItem(session, inputs, item);
+  }
+}
+
 /// Opens the group and chooses in it, or closes it: Apply works on the groups that are open.
 void setUp(Session& session, const AssignmentInputs& inputs, const std::optional<ItemChoice>& choice) {
   session.expand(inputs.group, choice.has_value());
@@ -56,8 +72,7 @@ void setUp(Session& session, const AssignmentInputs& inputs, const std::optional
   if (!choice->library.empty()) {
     choose(session, inputs.libraries, choice->library, "There is no library of " + what + "s called");
   }
-  const std::string library = session.input(inputs.libraries).selectedName();
-  choose(session, inputs.items, choice->name, "The library " + library + " has no " + what);
+  chooseItem(session, inputs, choice->name);
 }
 
 std::string whyApplyIsOff(const Session& session) {
@@ -155,6 +170,19 @@ std::vector<std::string> withOwnLook(const std::vector<Pickable>& objects) {
     }
   }
   return paths;
+}
+
+void bringDialogInto(Sitting& sitting, const DialogState& state) {
+  Session& session = sitting.session();
+  if (state.setsAppearanceByMaterial) {
+    session.tick(ids::appearanceByMaterial, true);
+  }
+  for (const std::string& group : state.closedGroups) {
+    session.expand(group, false);
+  }
+  fillIn(session, appearanceInputs, state.appearanceFilter, state.appearance);
+  fillIn(session, materialInputs, state.materialFilter, state.material);
+  sitting.requireNoErrors("the dialog was being filled in");
 }
 
 std::vector<Pickable> pickInDialog(Sitting& sitting, const Picks& picks) {

@@ -38,6 +38,20 @@ struct WorkDone {
   std::vector<std::string> otherLook;
 };
 
+/// How the dialog is to be filled in, in this order; what is empty stays as the dialog has it.
+struct DialogState {
+  bool setsAppearanceByMaterial = false;
+  /// Ids of groups to close.
+  std::vector<std::string> closedGroups;
+  std::string appearanceFilter;
+  std::string appearance;
+  std::string materialFilter;
+  std::string material;
+};
+
+/// Fills in the open dialog. Raises Failure when a list has no such item.
+void bringDialogInto(Sitting& sitting, const DialogState& state);
+
 /// Paths of those objects to which an appearance was applied themselves.
 std::vector<std::string> withOwnLook(const std::vector<Pickable>& objects);
 

@@ -1,12 +1,15 @@
 // The sub-commands that only look: tree, dialog and render.
 #include <iostream>
+#include <map>
 #include <memory>
 
 #include "host/cli/commands.h"
+#include "host/cli/dialog_ids.h"
 #include "host/cli/dialog_text.h"
 #include "host/cli/looks_text.h"
 #include "host/cli/options.h"
 #include "host/cli/picture.h"
+#include "host/cli/picture_files.h"
 #include "host/cli/tree_json.h"
 #include "host/cli/tree_text.h"
 
@@ -34,22 +37,53 @@ void runTree(const TreeOptions& options) {
   std::cout << treeText(root, options.colour.isOn()) << "\n" << countsText(countsOf(design)) << "\n";
 }
 
+constexpr const char* stateGroup = "How the dialog is filled in";
+constexpr const char* pictureGroup = "Pictures";
+
+/// The groups and lists by the words of the command line.
+const std::map<std::string, const char*> groupsByWord = {{"appearance", ids::appearanceGroup},
+                                                         {"material", ids::materialGroup}};
+const std::map<std::string, const char*> listsByWord = {{"appearance", ids::appearances}, {"material", ids::materials}};
+
 struct DialogOptions {
   std::filesystem::path file;
   SittingOptions sitting;
   PickOptions pick;
+  DialogState state;
+  std::vector<std::string> closedWords;
+  std::string openWord;
+  std::filesystem::path picture;
+  std::filesystem::path toolbarPicture;
 };
+
+void savePictures(Sitting& sitting, const DialogOptions& options) {
+  if (!options.toolbarPicture.empty()) {
+    saveToolbarPicture(sitting, options.toolbarPicture);
+  }
+  if (!options.picture.empty()) {
+    const std::string openList = options.openWord.empty() ? "" : listsByWord.at(options.openWord);
+    saveDialogPicture(sitting, openList, options.picture);
+  }
+}
 
 void runDialog(const DialogOptions& options) {
   checkTrace(options.file, options.sitting);
+  requireOtherFile(options.file, options.picture);
+  requireOtherFile(options.file, options.toolbarPicture);
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   sitting.startAddIn();
   sitting.openDialog();
+  DialogState state = options.state;
+  for (const std::string& word : options.closedWords) {
+    state.closedGroups.emplace_back(groupsByWord.at(word));
+  }
+  bringDialogInto(sitting, state);
   if (!options.pick.patterns.empty()) {
     pickInDialog(sitting, options.pick.picks());
   }
   std::cout << dialogText(sitting.session().dialog());
+  savePictures(sitting, options);
   sitting.closeDialog();
   sitting.stopAddIn();
 }
@@ -74,6 +108,33 @@ void runRender(const RenderOptions& options) {
     writePng(drawn(triangles, options.width, options.height), options.png);
   }
   std::cout << "Saved " << options.png.string() << "\n";
+}
+
+void addStateOptions(CLI::App& command, DialogOptions& options) {
+  const auto add = [&](const char* option, auto& value, const char* description, const char* type) {
+    return command.add_option(option, value, description)->type_name(type)->group(stateGroup);
+  };
+  command
+      .add_flag("--set-appearance-by-material", options.state.setsAppearanceByMaterial,
+                "Tick \"Set Appearance by Material\"")
+      ->group(stateGroup);
+  add("--close", options.closedWords, "Close a group: appearance or material", "GROUP")
+      ->check(CLI::IsMember({"appearance", "material"}));
+  add("--appearance-filter", options.state.appearanceFilter, "Type this into the filter of the appearances", "TEXT");
+  add("--appearance", options.state.appearance, "Choose this appearance", "NAME");
+  add("--material-filter", options.state.materialFilter, "Type this into the filter of the materials", "TEXT");
+  add("--material", options.state.material, "Choose this material", "NAME");
+}
+
+void addPictureOptions(CLI::App& command, DialogOptions& options) {
+  const auto add = [&](const char* option, auto& value, const char* description, const char* type) {
+    return command.add_option(option, value, description)->type_name(type)->group(pictureGroup);
+  };
+  auto* picture = add("--picture", options.picture, "Where to save a picture of the dialog", "OUT.svg");
+  add("--open-list", options.openWord, "The list that it shows open: appearance or material", "LIST")
+      ->check(CLI::IsMember({"appearance", "material"}))
+      ->needs(picture);
+  add("--toolbar-picture", options.toolbarPicture, "Where to save a picture of the toolbar", "OUT.svg");
 }
 
 }  // namespace
@@ -102,6 +163,8 @@ void addDialogCommand(CLI::App& program) {
       "dialog", "Show the add-in's dialog, as its user sees it, with nothing or something picked");
   addInputFile(command, options->file);
   addPickOptions(command, options->pick, Picking::Optional);
+  addStateOptions(command, *options);
+  addPictureOptions(command, *options);
   addAddInOptions(command, options->sitting);
   command.callback([options] { runDialog(*options); });
 }

@@ -226,5 +226,27 @@ TEST_F(CliTest, ARealAssemblyIsPaintedAndReadBack) {
   EXPECT_EQ(after["occurrences"][0], before["occurrences"][0]);
 }
 
+TEST_F(CliTest, TheDialogIsDrawnAfterApply) {
+  succeed(applying(
+      {"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--picture", at("dialog.svg")}));
+  EXPECT_THAT(content("dialog.svg"),
+              AllOf(HasSubstr(">1 selected<"), HasSubstr("font-weight=\"bold\">RAL 3000 Flame red<")));
+}
+
+TEST_F(CliTest, TheLastQuestionIsDrawn) {
+  succeed(applying({"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red", "--answer",
+                    "yes", "--question-picture", at("question.svg")}));
+  EXPECT_THAT(content("question.svg"), AllOf(HasSubstr("bodies &amp; faces?"), HasSubstr(">Yes<"), HasSubstr(">No<")));
+}
+
+TEST_F(CliTest, WithoutQuestionThereIsNoneToDraw) {
+  EXPECT_THAT(runProgram(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red",
+                                   "--question-picture", at("question.svg")}))
+                  .err,
+              HasSubstr("The add-in asked nothing"));
+  EXPECT_FALSE(exists("question.svg"));
+  EXPECT_FALSE(exists("out.step"));
+}
+
 }  // namespace
 }  // namespace tests

@@ -55,6 +55,43 @@ TEST_P(DialogUnderProfile, ShowsThePickedObjects) {
 INSTANTIATE_TEST_SUITE_P(Profiles, DialogUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
                          [](const auto& info) { return std::string(info.param); });
 
+TEST_F(CliTest, DialogIsFilledInAsAskedFor) {
+  const std::string dialog = succeed({"dialog", rig(), "--close", "appearance", "--material-filter", "stainless",
+                                      "--material", "Stainless Steel AISI 316", "--set-appearance-by-material"});
+  EXPECT_THAT(dialog, AllOf(HasSubstr("▸ [ ] Assign Appearance to Selected Object"), HasSubstr("[ stainless"),
+                            HasSubstr("[ Stainless Steel AISI 316"), HasSubstr("[x] Set Appearance by Material"),
+                            Not(HasSubstr("Brass"))));
+  EXPECT_THAT(succeed({"dialog", rig(), "--appearance-filter", "ral 30", "--appearance", "RAL 3003 Ruby red"}),
+              AllOf(HasSubstr("[ ral 30"), HasSubstr("[ RAL 3003 Ruby red")));
+}
+
+TEST_F(CliTest, AnItemThatTheFilterHidesCannotBeChosen) {
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--appearance-filter", "ral 50", "--appearance", "RAL 3003 Ruby red"}),
+              HasSubstr("The library RAL_COLORS has no appearance \"RAL 3003 Ruby red\""));
+}
+
+TEST_F(CliTest, DialogIsDrawnWithTheColoursOfTheLibrary) {
+  succeed({"dialog", rig(), "--picture", at("dialog.svg"), "--appearance-filter", "ral 30", "--open-list", "appearance",
+           "--filter", "face", "--select", "*/Shaft/Face2"});
+  const std::string picture = content("dialog.svg");
+  for (const char* label :
+       {">Select Component/Body/Face<", ">Select Object<", ">Selection Filter<",
+        ">Assign Appearance to Selected Object<", ">Selection Appearance<", ">Library of Appearances<", ">Appearance<",
+        ">Filter<", ">Assign Material to Selected Object<", ">Selection material<", ">Set Appearance by Material<",
+        ">Library of Materials<", ">Material<", ">Close<", "<title>idRemoveAssignAppearance<", "<title>idBtnApply<"}) {
+    EXPECT_THAT(picture, HasSubstr(label));
+  }
+  EXPECT_THAT(picture, AllOf(HasSubstr(">2 selected<"), HasSubstr(">ral 30<"), HasSubstr(">RAL 3000 Flame red<"),
+                             HasSubstr("fill=\"#A72920\""), HasSubstr("font-weight=\"bold\">Opaque(0,0,255)<"),
+                             HasSubstr("Steel</tspan>")));
+  EXPECT_THAT(picture, Not(HasSubstr("RAL 1000")));
+}
+
+TEST_F(CliTest, ToolbarIsDrawn) {
+  succeed({"dialog", rig(), "--toolbar-picture", at("toolbar.svg")});
+  EXPECT_THAT(content("toolbar.svg"), AllOf(HasSubstr(">QV Tools<"), HasSubstr("<title>Open Help<")));
+}
+
 TEST_F(CliTest, ALibraryThatCannotBeReadIsNamedWhenTheDialogDoesNotOpen) {
   const std::filesystem::path addIn = at("addin");
   std::filesystem::create_directories(addIn / "resources/Libs/Appearances");
