@@ -23,6 +23,8 @@ build_packages=(g++ cmake ninja-build nlohmann-json3-dev libcli11-dev libpng-dev
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev binutils python3 git ca-certificates)
 # What building the pictures beside the module takes: icons from drawings, swatches of colours.
 picture_packages=(librsvg2-bin python3-pil fonts-dejavu-core)
+# What making the user guide and its pictures, and looking into it, take besides.
+guide_packages=(weasyprint python3-markdown fonts-open-sans poppler-utils)
 # What the checks with the second compiler take besides.
 check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14)
 
