@@ -5,6 +5,7 @@
 namespace headless {
 
 using adsk::core::Appearance;
+using adsk::core::Appearances;
 using adsk::core::Material;
 using adsk::core::Ptr;
 using adsk::fusion::BRepBodies;
@@ -20,6 +21,10 @@ DesignObject::DesignObject(EntityStore& entityStore, model::Design& design)
 
 Ptr<Component> DesignObject::rootComponent() const {
   return call("rootComponent", [this] { return store.component(data.root()); });
+}
+
+Ptr<Appearances> DesignObject::appearances() const {
+  return call("appearances", [this] { return store.appearances().collection(); });
 }
 
 ComponentObject::ComponentObject(EntityStore& entityStore, model::Component& component)

@@ -21,6 +21,7 @@ class DesignObject final : public BoundObject<adsk::fusion::Design> {
   DesignObject(EntityStore& entityStore, model::Design& design);
 
   adsk::core::Ptr<adsk::fusion::Component> rootComponent() const override;
+  adsk::core::Ptr<adsk::core::Appearances> appearances() const override;
 
  protected:
   std::string detail() const override { return data.name; }

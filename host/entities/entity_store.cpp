@@ -2,36 +2,12 @@
 
 #include "host/entities/design_objects.h"
 #include "host/entities/material_objects.h"
+#include "host/entities/one_step.h"
 #include "host/model/resolution.h"
 
 namespace headless {
 
 using adsk::core::Ptr;
-
-namespace {
-
-/// Makes the changes of one call one step when no command's transaction is open.
-class OneStep {
- public:
-  explicit OneStep(model::History& changed) : history(changed), isOwn(!changed.isOpen()) {
-    if (isOwn) {
-      history.begin();
-    }
-  }
-  ~OneStep() {
-    if (isOwn) {
-      history.commit("Edit");
-    }
-  }
-  OneStep(const OneStep&) = delete;
-  OneStep& operator=(const OneStep&) = delete;
-
- private:
-  model::History& history;
-  bool isOwn;
-};
-
-}  // namespace
 
 EntityStore::EntityStore(model::Design& openDesign, model::History& designHistory, MaterialStore& materialStore,
                          const Profile& hostProfile)
@@ -43,7 +19,8 @@ EntityStore::EntityStore(model::Design& openDesign, model::History& designHistor
       components(profile.freshWrappers),
       occurrences(profile.freshWrappers),
       bodies(profile.freshWrappers),
-      faces(profile.freshWrappers) {}
+      faces(profile.freshWrappers),
+      designAppearances(openDesign, history, materialStore, lifetime) {}
 
 EntityStore::~EntityStore() = default;
 

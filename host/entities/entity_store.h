@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "host/entities/design_appearances.h"
 #include "host/entities/lifetime.h"
 #include "host/entities/material_store.h"
 #include "host/model/design.h"
@@ -50,6 +51,8 @@ class EntityStore {
   bool assign(model::Body& body, const adsk::core::Ptr<adsk::core::Material>& material);
   bool assign(model::Component& component, const adsk::core::Ptr<adsk::core::Material>& material);
 
+  /// The design's own appearances.
+  DesignAppearances& appearances() { return designAppearances; }
   MaterialStore& materials() const { return materialStore; }
   const Profile& hostProfile() const { return profile; }
   /// The end of this lifetime is the end of every handle object.
@@ -74,6 +77,7 @@ class EntityStore {
   HandleMap<const void*, adsk::fusion::Occurrence> occurrences;
   HandleMap<InContext, adsk::fusion::BRepBody, HashOfInContext> bodies;
   HandleMap<InContext, adsk::fusion::BRepFace, HashOfInContext> faces;
+  DesignAppearances designAppearances;
   std::unordered_map<std::shared_ptr<const model::Appearance>, std::shared_ptr<const model::Appearance>> copies;
 };
 

@@ -82,6 +82,8 @@ class HandleMap {
     }
     return handle;
   }
+  /// The next handle for `key` is a new one.
+  void forget(const Key& key) { handles.erase(key); }
 
  private:
   bool isFresh;

@@ -3,6 +3,9 @@
 #include <utility>
 #include <variant>
 
+#include "host/entities/appearance_properties.h"
+#include "host/entities/design_appearances.h"
+
 namespace headless {
 
 using adsk::core::Appearance;
@@ -14,8 +17,9 @@ using adsk::core::Properties;
 using adsk::core::Property;
 using adsk::core::Ptr;
 
-AppearanceObject::AppearanceObject(Lifetime& lifetime, std::shared_ptr<const model::Appearance> appearance)
-    : BoundObject(lifetime), data_(std::move(appearance)) {}
+AppearanceObject::AppearanceObject(Lifetime& lifetime, MaterialStore& materialStore,
+                                   std::shared_ptr<const model::Appearance> appearance)
+    : BoundObject(lifetime), store(materialStore), data_(std::move(appearance)) {}
 
 std::string AppearanceObject::name() const {
   return call("name", [this] { return data_->name; });
@@ -23,6 +27,30 @@ std::string AppearanceObject::name() const {
 
 std::string AppearanceObject::id() const {
   return call("id", [this] { return data_->id; });
+}
+
+bool AppearanceObject::hasTexture() const {
+  return call("hasTexture", [this] { return data_->hasTexture; });
+}
+
+Ptr<Properties> AppearanceObject::appearanceProperties() const {
+  return call("appearanceProperties", [this]() -> Ptr<Properties> {
+    return makeObject<AppearancePropertiesObject>(store.lifetimeOf(*data_), store, data_);
+  });
+}
+
+bool AppearanceObject::isUsed() const {
+  return call("isUsed", [this] {
+    const DesignAppearances* owner = store.ownerOf(*data_);
+    return owner != nullptr && owner->isUsed(*data_);
+  });
+}
+
+bool AppearanceObject::deleteMe() {
+  return call("deleteMe", [this] {
+    DesignAppearances* owner = store.ownerOf(*data_);
+    return owner != nullptr && owner->remove(*data_);
+  });
 }
 
 MaterialObject::MaterialObject(Lifetime& lifetime, MaterialStore& materialStore,
@@ -106,6 +134,11 @@ std::string StringPropertyObject::value() const {
   return call("value", [this] { return std::get<std::string>(data.value); });
 }
 
+Ptr<Appearance> LibraryAppearances::addByCopy(const Ptr<Appearance>& source, const std::string& name) {
+  return call(
+      "addByCopy", [] { return Ptr<Appearance>(); }, source, name);
+}
+
 LibraryObject::LibraryObject(Lifetime& libraryLifetime, MaterialStore& materialStore, const model::Library& library)
     : BoundObject(libraryLifetime), lifetime(libraryLifetime), store(materialStore), library(library) {}
 
@@ -118,16 +151,15 @@ std::string LibraryObject::id() const {
 }
 
 Ptr<Materials> LibraryObject::materials() const {
-  using Items = LibraryItems<Materials, Material, model::Material>;
+  using Items = ListedItems<Materials, Material, model::Material>;
   return call("materials", [this]() -> Ptr<Materials> {
     return makeObject<Items>(lifetime, store, library.materials, &MaterialStore::material);
   });
 }
 
 Ptr<Appearances> LibraryObject::appearances() const {
-  using Items = LibraryItems<Appearances, Appearance, model::Appearance>;
   return call("appearances", [this]() -> Ptr<Appearances> {
-    return makeObject<Items>(lifetime, store, library.appearances, &MaterialStore::appearance);
+    return makeObject<LibraryAppearances>(lifetime, store, library.appearances, &MaterialStore::appearance);
   });
 }
 

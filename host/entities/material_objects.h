@@ -14,10 +14,15 @@ namespace headless {
 
 class AppearanceObject final : public BoundObject<adsk::core::Appearance> {
  public:
-  AppearanceObject(Lifetime& lifetime, std::shared_ptr<const model::Appearance> appearance);
+  AppearanceObject(Lifetime& lifetime, MaterialStore& materialStore,
+                   std::shared_ptr<const model::Appearance> appearance);
 
   std::string name() const override;
   std::string id() const override;
+  bool hasTexture() const override;
+  adsk::core::Ptr<adsk::core::Properties> appearanceProperties() const override;
+  bool isUsed() const override;
+  bool deleteMe() override;
 
   const std::shared_ptr<const model::Appearance>& data() const { return data_; }
 
@@ -25,6 +30,7 @@ class AppearanceObject final : public BoundObject<adsk::core::Appearance> {
   std::string detail() const override { return data_->name; }
 
  private:
+  MaterialStore& store;
   std::shared_ptr<const model::Appearance> data_;
 };
 
@@ -102,14 +108,14 @@ class StringPropertyObject final : public PropertyObject<adsk::core::StringPrope
   std::string value() const override;
 };
 
-/// The appearances, or the materials, of one library in its order.
-template <class Interface, class Item, class Data>
-class LibraryItems final : public BoundObject<Interface> {
+/// Appearances, or materials, of a library or a design in its order. `Held` is the data as the list holds it.
+template <class Interface, class Item, class Data, class Held = const Data>
+class ListedItems : public BoundObject<Interface> {
  public:
-  using Entries = std::vector<std::shared_ptr<const Data>>;
+  using Entries = std::vector<std::shared_ptr<Held>>;
   using Find = adsk::core::Ptr<Item> (MaterialStore::*)(const std::shared_ptr<const Data>&);
 
-  LibraryItems(Lifetime& lifetime, MaterialStore& materialStore, const Entries& listed, Find handleFor)
+  ListedItems(Lifetime& lifetime, MaterialStore& materialStore, const Entries& listed, Find handleFor)
       : BoundObject<Interface>(lifetime), store(materialStore), entries(listed), find(handleFor) {}
 
   adsk::core::Ptr<Item> item(int index) const override {
@@ -144,6 +150,16 @@ class LibraryItems final : public BoundObject<Interface> {
   MaterialStore& store;
   const Entries& entries;
   Find find;
+};
+
+/// The appearances of a library, which takes no others.
+class LibraryAppearances final
+    : public ListedItems<adsk::core::Appearances, adsk::core::Appearance, model::Appearance> {
+ public:
+  using ListedItems::ListedItems;
+
+  adsk::core::Ptr<adsk::core::Appearance> addByCopy(const adsk::core::Ptr<adsk::core::Appearance>& source,
+                                                    const std::string& name) override;
 };
 
 class LibraryObject final : public BoundObject<adsk::core::MaterialLibrary> {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/entities/design_appearances.h"
 #include "host/entities/material_objects.h"
 #include "host/libraries/library_file.h"
 
@@ -40,6 +41,18 @@ Ptr<adsk::core::MaterialLibraries> MaterialStore::libraries() {
 
 Ptr<MaterialLibrary> MaterialStore::add(model::Library library) {
   return addLoaded(std::move(library)).handle;
+}
+
+void MaterialStore::setNative(std::vector<model::Library> libraries) {
+  for (std::size_t i = loaded.size(); i-- > 0;) {
+    if (loaded[i]->library.isNative) {
+      forget(i);
+    }
+  }
+  for (model::Library& library : libraries) {
+    library.isNative = true;
+    add(std::move(library));
+  }
 }
 
 MaterialStore::Loaded& MaterialStore::addLoaded(model::Library library) {
@@ -96,18 +109,41 @@ bool MaterialStore::unload(const model::Library& library) {
   if (found == loaded.end() || library.isNative) {
     return false;
   }
-  for (const auto& appearance : library.appearances) {
+  forget(static_cast<std::size_t>(found - loaded.begin()));
+  return true;
+}
+
+void MaterialStore::forget(std::size_t index) {
+  for (const auto& appearance : loaded[index]->library.appearances) {
     libraryAppearances.erase(appearance.get());
   }
-  loaded.erase(found);
-  return true;
+  loaded.erase(loaded.begin() + static_cast<std::ptrdiff_t>(index));
 }
 
 Ptr<adsk::core::Appearance> MaterialStore::appearance(const std::shared_ptr<const model::Appearance>& data) {
   if (!data) {
     return nullptr;
   }
-  return appearances.get(data.get(), [&] { return makeObject<AppearanceObject>(lifetime, data); });
+  return appearances.get(data.get(), [&] { return makeObject<AppearanceObject>(lifetimeOf(*data), *this, data); });
+}
+
+DesignAppearances* MaterialStore::ownerOf(const model::Appearance& appearance) const {
+  const auto found = owners.find(&appearance);
+  return found != owners.end() ? found->second : nullptr;
+}
+
+void MaterialStore::setOwner(const model::Appearance& appearance, DesignAppearances* owner) {
+  appearances.forget(&appearance);
+  if (owner != nullptr) {
+    owners[&appearance] = owner;
+  } else {
+    owners.erase(&appearance);
+  }
+}
+
+Lifetime& MaterialStore::lifetimeOf(const model::Appearance& appearance) {
+  DesignAppearances* owner = ownerOf(appearance);
+  return owner != nullptr ? owner->lifetimeOf(appearance) : lifetime;
 }
 
 Ptr<adsk::core::Material> MaterialStore::material(const std::shared_ptr<const model::Material>& data) {

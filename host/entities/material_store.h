@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -18,6 +19,7 @@
 namespace headless {
 
 class AppearanceObject;
+class DesignAppearances;
 class LibraryObject;
 class MaterialObject;
 
@@ -34,6 +36,8 @@ class MaterialStore {
 
   /// Adds a library that is no file, such as one delivered with the host.
   adsk::core::Ptr<adsk::core::MaterialLibrary> add(model::Library library);
+  /// Replaces the libraries that are delivered with the host, as if another host had been installed.
+  void setNative(std::vector<model::Library> libraries);
 
   /// What MaterialLibraries::load does: the library of a file, or nothing when it is not a readable ".adsklib" file
   /// given by its full path, or was loaded before and the profile gives nothing then.
@@ -57,10 +61,18 @@ class MaterialStore {
   adsk::core::Ptr<adsk::core::Appearance> appearance(const std::shared_ptr<const model::Appearance>& data);
   adsk::core::Ptr<adsk::core::Material> material(const std::shared_ptr<const model::Material>& data);
 
+  /// The open design that the appearance belongs to; nullptr when it is none's own.
+  DesignAppearances* ownerOf(const model::Appearance& appearance) const;
+  /// Tells whose it is, nullptr for nobody's any more. Handles that were given out for it are not given out again.
+  void setOwner(const model::Appearance& appearance, DesignAppearances* owner);
+  /// What the handles of the appearance, and of its properties, end with.
+  Lifetime& lifetimeOf(const model::Appearance& appearance);
+
  private:
   struct Loaded;
 
   Loaded& addLoaded(model::Library library);
+  void forget(std::size_t index);
 
   const Profile& profile;
   // Ends last, after the handles below are let go.
@@ -68,6 +80,7 @@ class MaterialStore {
   HandleMap<const model::Appearance*, AppearanceObject> appearances;
   HandleMap<const model::Material*, MaterialObject> materials;
   std::vector<std::unique_ptr<Loaded>> loaded;
+  std::unordered_map<const model::Appearance*, DesignAppearances*> owners;
   std::unordered_set<const model::Appearance*> libraryAppearances;
   std::vector<std::string> problems;
 };

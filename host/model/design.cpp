@@ -1,5 +1,6 @@
 #include "host/model/design.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 #include <unordered_set>
@@ -38,6 +39,20 @@ bool wouldContainItself(const Component& parent, const Component& child) {
     return false;
   }
   return contains(child, parent);
+}
+
+/// True when one of what was given to the component, its parts and the occurrences below it is that look.
+bool uses(const Component& component, const Appearance& appearance) {
+  const auto isIt = [&](const auto& looking) { return looking->appearance.get() == &appearance; };
+  const auto isOfIt = [&](const auto& made) { return made->material != nullptr && isIt(made->material); };
+  const auto usesIt = [&](const std::unique_ptr<Body>& body) {
+    return isIt(body) || isOfIt(body) || std::any_of(body->faces.begin(), body->faces.end(), isIt);
+  };
+  if (isOfIt(&component) || std::any_of(component.bodies.begin(), component.bodies.end(), usesIt)) {
+    return true;
+  }
+  return component.isExpanded() &&
+         std::any_of(component.allOccurrences().begin(), component.allOccurrences().end(), isIt);
 }
 
 }  // namespace
@@ -161,6 +176,11 @@ Component& Design::addComponent(std::string componentName) {
   component->name = uniqueName(std::move(componentName));
   components.push_back(std::move(component));
   return *components.back();
+}
+
+bool Design::uses(const Appearance& appearance) const {
+  return std::any_of(components.begin(), components.end(),
+                     [&](const auto& component) { return model::uses(*component, appearance); });
 }
 
 std::string Design::uniqueName(std::string wanted) {

@@ -132,6 +132,9 @@ inline constexpr std::size_t maximumOccurrences = 1'000'000;
 struct Design {
   std::string name;
   std::vector<std::unique_ptr<Component>> components;
+  /// Appearances that were copied into the design, in order. Everything that shows one shares it; lists and entries are
+  /// changed through the design's history.
+  std::vector<std::shared_ptr<Appearance>> appearances;
   /// True once any component's tree was made: from then on the structure is fixed.
   bool hasTrees = false;
   /// True once a tree other than the root's was made.
@@ -147,6 +150,9 @@ struct Design {
   /// Adds a component that is not placed anywhere yet; owned by the design. A name already taken gets " (1)", " (2)"
   /// and so on behind it, as names of components are unique in a design.
   Component& addComponent(std::string componentName);
+
+  /// True when the look was given to something in the design, or belongs to a material of something in it.
+  bool uses(const Appearance& appearance) const;
 
  private:
   std::string uniqueName(std::string wanted);

@@ -1,9 +1,11 @@
 // Appearances, physical materials and the libraries that hold them: plain data, shared by everything that shows them
-// and never changed once made. No file, user interface or API is known here.
+// and never changed once made, except for a design's own appearances, which its history changes. No file, user
+// interface or API is known here.
 #pragma once
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -30,11 +32,19 @@ std::string hexText(const Colour& colour);
 /// The colour of such a text (case of the digits is free). Raises std::invalid_argument that names the text.
 Colour colourFromHex(std::string_view text);
 
+/// The kinds of surfaces, each of which keeps its colour under a property of its own.
+enum class Surface { Opaque, Metal, Transparent };
+
 /// A look: a name and the colour that stands for it. Names need not be unique; ids are.
 struct Appearance {
   std::string id;
   std::string name;
   Colour colour;
+  Surface surface = Surface::Opaque;
+  /// 0 for a mirror, 1 for matt; nothing when the surface is described in another way.
+  std::optional<double> roughness = 0.5;
+  /// A picture is shown in place of the colour.
+  bool hasTexture = false;
 };
 
 /// One entry of a material's property collection: a number with its unit, or a text.

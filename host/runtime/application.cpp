@@ -35,6 +35,10 @@ Ptr<adsk::core::Product> ApplicationObject::activeProduct() const {
   });
 }
 
+Ptr<adsk::core::Documents> ApplicationObject::documents() const {
+  return call("documents", [this] { return host.documents(); });
+}
+
 Ptr<adsk::core::MaterialLibraries> ApplicationObject::materialLibraries() const {
   return call("materialLibraries", [this] { return host.materials().libraries(); });
 }
@@ -73,6 +77,14 @@ class NamedValuesObject final : public HostObject<adsk::core::NamedValues> {};
 }  // namespace headless
 
 namespace adsk {
+
+void doEvents() {
+  headless::CallGate::pass("adsk", nullptr, headless::Host::current() != nullptr, "doEvents", [] {
+    headless::Host::current()->workOffEvents();
+    return true;
+  });
+}
+
 namespace core {
 
 Ptr<Application> Application::get() {

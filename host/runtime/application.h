@@ -33,6 +33,7 @@ class ApplicationObject final : public HostObject<adsk::core::Application> {
 
   adsk::core::Ptr<adsk::core::UserInterface> userInterface() const override;
   adsk::core::Ptr<adsk::core::Product> activeProduct() const override;
+  adsk::core::Ptr<adsk::core::Documents> documents() const override;
   adsk::core::Ptr<adsk::core::MaterialLibraries> materialLibraries() const override;
   adsk::core::Ptr<adsk::core::User> currentUser() const override;
   std::string userName() const override;

@@ -81,7 +81,9 @@ bool CallGate::strikes(const char* className, const char* member) {
     return false;
   }
   const FaultAnswer answer = fault->answer;
-  fault.reset();
+  if (callsBeforeFault - fault->nth + 1 >= fault->times) {
+    fault.reset();
+  }
   struck = true;
   if (answer == FaultAnswer::Exception) {
     throw std::runtime_error(nameOfCall(className, member) + " was made to fail");

@@ -30,12 +30,14 @@ class Traceable {
 /// What a call answers that was made to fail: nothing (an empty handle, false, 0 or "", by its type), or an exception.
 enum class FaultAnswer { Nothing, Exception };
 
-/// Makes the `nth` call from now on fail, counted from 1 over all calls or over those of one name.
+/// Makes the `nth` call from now on fail, counted from 1 over all calls or over those of one name, and as many after it
+/// as make `times`.
 struct Fault {
   std::size_t nth = 1;
   FaultAnswer answer = FaultAnswer::Nothing;
   /// Such as "ListItems.add" or, for a setter, "ListItem.isSelected="; empty for any.
   std::string call = {};
+  std::size_t times = 1;
 };
 
 /// A call that should not have been made, such as one on an object that was deleted.
@@ -75,7 +77,7 @@ class CallGate {
   /// What was recorded, one call a line, indented by depth.
   std::string traceText() const;
 
-  /// Sets the fault, which replaces the one before; it strikes once.
+  /// Sets the fault, which replaces the one before.
   void setFault(const Fault& newFault);
   void clearFault() { fault.reset(); }
   /// True once the fault that was set last has struck.

@@ -32,6 +32,12 @@ const char* ButtonControlDefinition::classType() {
 const char* ButtonRowCommandInput::classType() {
   return "adsk::core::ButtonRowCommandInput";
 }
+const char* Color::classType() {
+  return "adsk::core::Color";
+}
+const char* ColorProperty::classType() {
+  return "adsk::core::ColorProperty";
+}
 const char* Command::classType() {
   return "adsk::core::Command";
 }
@@ -64,6 +70,12 @@ const char* CommandInputs::classType() {
 }
 const char* ControlDefinition::classType() {
   return "adsk::core::ControlDefinition";
+}
+const char* Document::classType() {
+  return "adsk::core::Document";
+}
+const char* Documents::classType() {
+  return "adsk::core::Documents";
 }
 const char* DropDownCommandInput::classType() {
   return "adsk::core::DropDownCommandInput";
@@ -112,6 +124,12 @@ const char* NamedValues::classType() {
 }
 const char* Product::classType() {
   return "adsk::core::Product";
+}
+const char* Products::classType() {
+  return "adsk::core::Products";
+}
+const char* ProgressDialog::classType() {
+  return "adsk::core::ProgressDialog";
 }
 const char* Properties::classType() {
   return "adsk::core::Properties";

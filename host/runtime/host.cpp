@@ -1,10 +1,13 @@
 #include "host/runtime/host.h"
 
+#include <algorithm>
 #include <set>
 #include <stdexcept>
 #include <utility>
 
+#include "host/libraries/native_library.h"
 #include "host/runtime/application.h"
+#include "host/runtime/documents.h"
 
 namespace headless {
 
@@ -73,11 +76,13 @@ Host::Host(Profile hostProfile)
     : profile_(std::move(hostProfile)),
       ui_(makeObject<UserInterfaceObject>(profile_, boundary_)),
       materials_(std::make_unique<MaterialStore>(profile_)),
-      application_(makeObject<ApplicationObject>(*this)) {
+      application_(makeObject<ApplicationObject>(*this)),
+      documentList(makeObject<DocumentsObject>(*this)) {
   if (currentHost != nullptr) {
     throw std::logic_error("there is a host already; only one can live at a time");
   }
   currentHost = this;
+  materials_->setNative({libraries::nativeLibrary()});
   WorkspaceObject& workspace = ui_->workspaceList().add("FusionSolidEnvironment", "DESIGN", profile_);
   workspace.addTab("SolidTab", "SOLID");
   workspace.toolsTab();
@@ -86,7 +91,9 @@ Host::Host(Profile hostProfile)
 
 Host::~Host() {
   ui_->close();
-  closeDocument();
+  leaveDocument(adsk::core::SessionEndingTerminationReason);
+  documents_.clear();
+  documentList->markDeleted();
   application_->markDeleted();
   currentHost = nullptr;
 }
@@ -100,31 +107,85 @@ Ptr<adsk::core::Application> Host::application() const {
 }
 
 void Host::open(std::unique_ptr<model::Design> design) {
-  ui_->runner().withoutRestarts([&] { replaceDocument(std::move(design)); });
+  ui_->runner().withoutRestarts([&] {
+    Document* before = active_;
+    leaveDocument(adsk::core::SessionEndingTerminationReason);
+    forget(before);
+    activate(keep(std::move(design)));
+  });
+}
+
+Document& Host::openNew(std::unique_ptr<model::Design> design) {
+  ui_->runner().withoutRestarts([&] {
+    leaveDocument(adsk::core::PreEmptedTerminationReason);
+    Document& made = keep(std::move(design));
+    made.isSaved = false;
+    activate(made);
+  });
+  return *active_;
 }
 
 void Host::closeDocument() {
-  ui_->runner().withoutRestarts([this] { replaceDocument(nullptr); });
+  ui_->runner().withoutRestarts([this] {
+    Document* closed = active_;
+    leaveDocument(adsk::core::SessionEndingTerminationReason);
+    forget(closed);
+    if (!documents_.empty()) {
+      activate(*documents_.back());
+    }
+  });
 }
 
-void Host::replaceDocument(std::unique_ptr<model::Design> design) {
-  ui_->runner().end(adsk::core::SessionEndingTerminationReason);
+void Host::close(Document& document) {
+  if (&document == active_) {
+    closeDocument();
+  } else {
+    forget(&document);
+  }
+}
+
+Ptr<adsk::core::Documents> Host::documents() const {
+  return Ptr<adsk::core::Documents>(documentList);
+}
+
+void Host::workOffEvents() {
+  if (whileBusy) {
+    boundary_.run("doEvents", whileBusy);
+  }
+}
+
+void Host::leaveDocument(adsk::core::CommandTerminationReason reason) {
+  ui_->runner().end(reason);
   ui_->runner().useHistory(nullptr);
   ui_->idleSelection().drop();
-  document_ = nullptr;
-  if (design == nullptr) {
-    return;
-  }
+  active_ = nullptr;
+}
+
+// The handles to a document and to all that is in it end here. None is forgotten for nullptr.
+void Host::forget(const Document* document) {
+  documents_.erase(
+      std::remove_if(documents_.begin(), documents_.end(), [&](const auto& each) { return each.get() == document; }),
+      documents_.end());
+}
+
+Document& Host::keep(std::unique_ptr<model::Design> design) {
   // Expanding now shows a design that is too large here, and not inside a call of the add-in.
   design->root().occurrences();
-  document_ = std::make_unique<Document>();
-  document_->design = std::move(design);
-  document_->entities = std::make_unique<EntityStore>(*document_->design, document_->history, *materials_, profile_);
-  document_->history.onChange = [this] {
+  auto kept = std::make_unique<Document>();
+  kept->name = design->name;
+  kept->design = std::move(design);
+  kept->entities = std::make_unique<EntityStore>(*kept->design, kept->history, *materials_, profile_);
+  kept->handle = makeObject<DocumentObject>(*this, *kept);
+  kept->history.onChange = [this] {
     ui_->idleSelection().drop();
     ui_->runner().modelEdited();
   };
-  ui_->runner().useHistory(&document_->history);
+  return *documents_.emplace_back(std::move(kept));
+}
+
+void Host::activate(Document& document) {
+  active_ = &document;
+  ui_->runner().useHistory(&document.history);
 }
 
 std::vector<std::string> Host::inconsistencies() const {

@@ -1,9 +1,10 @@
-// The headless host: one application with its user interface, its material libraries and the document that is open.
+// The headless host: one application with its user interface, its material libraries and the documents that are open.
 // There is one at a time; while it lives, Application::get() gives its application.
 #pragma once
 
 #include <Core/CoreAll.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,14 +37,21 @@ struct ApplicationState {
   bool isOtherProductActive = false;
 };
 
+class ApplicationObject;
+class DocumentObject;
+class DocumentsObject;
+
 /// An open document: the design, its history and the handles to its entities.
 struct Document {
+  /// As shown on its tab.
+  std::string name;
+  /// False for one that a program made and that was never a file.
+  bool isSaved = true;
   std::unique_ptr<model::Design> design;
   model::History history;
   std::unique_ptr<EntityStore> entities;
+  adsk::core::Ptr<DocumentObject> handle;
 };
-
-class ApplicationObject;
 
 class Host {
  public:
@@ -63,20 +71,34 @@ class Host {
   ApplicationState& state() { return state_; }
   adsk::core::Ptr<adsk::core::Application> application() const;
 
-  /// The open document; nullptr when there is none.
-  Document* document() const { return document_.get(); }
-  /// Opens a design; the document that was open is closed.
+  /// The document that is worked on; nullptr when none is open.
+  Document* document() const { return active_; }
+  /// Opens a design; the document that was worked on is closed.
   void open(std::unique_ptr<model::Design> design);
-  /// Ends the running command and closes the document, if there is one.
+  /// Opens a design that was never saved; the other documents stay open behind it.
+  Document& openNew(std::unique_ptr<model::Design> design);
+  /// Ends the running command and closes the document that is worked on, if there is one. The one that was opened last
+  /// among the others is worked on then.
   void closeDocument();
+  /// Closes a document of this host.
+  void close(Document& document);
+  /// The API's collection of them.
+  adsk::core::Ptr<adsk::core::Documents> documents() const;
+
+  /// What a person does each time a module lets the host work off its events; may be empty.
+  std::function<void()> whileBusy = nullptr;
+  /// Lets the person act. What goes wrong in that is reported, and does not disturb the module.
+  void workOffEvents();
 
   /// What is wrong with the host itself, as sentences: ids that are not unique, several selected items in a
   /// single-choice list, and the like. Empty when all is well.
   std::vector<std::string> inconsistencies() const;
 
  private:
-  // Empty for none.
-  void replaceDocument(std::unique_ptr<model::Design> design);
+  void leaveDocument(adsk::core::CommandTerminationReason reason);
+  void forget(const Document* document);
+  Document& keep(std::unique_ptr<model::Design> design);
+  void activate(Document& document);
 
   Profile profile_;
   CallGate gate_;
@@ -84,8 +106,11 @@ class Host {
   ApplicationState state_;
   adsk::core::Ptr<UserInterfaceObject> ui_;
   std::unique_ptr<MaterialStore> materials_;
-  std::unique_ptr<Document> document_;
+  // In the order in which they were opened.
+  std::vector<std::unique_ptr<Document>> documents_;
+  Document* active_ = nullptr;
   adsk::core::Ptr<ApplicationObject> application_;
+  adsk::core::Ptr<DocumentsObject> documentList;
 };
 
 }  // namespace headless

@@ -62,6 +62,46 @@ void Session::unloadAddIn() {
   }
 }
 
+bool Session::runScript(const std::filesystem::path& moduleFile) {
+  note("runs the script " + moduleFile.filename().u8string());
+  bool result = false;
+  {
+    const Module module(moduleFile);
+    host_->boundary().run("run", [&] { result = module.run(startContext); });
+  }
+  if (Module::isResident(moduleFile)) {
+    host_->boundary().report("unload", "something keeps the script in memory: " + moduleFile.string());
+  }
+  if (isProgressShown()) {
+    host_->boundary().report("run", "the script left its progress dialog behind: " + progress().title);
+    progressDialog().takeAway();
+  }
+  checkHost();
+  return result;
+}
+
+ProgressView Session::progress() const {
+  progressDialog();
+  return *viewProgress(host_->ui());
+}
+
+void Session::cancelProgress() {
+  note("cancels the progress dialog");
+  ProgressDialogObject& dialog = progressDialog();
+  if (!dialog.hasCancelButton()) {
+    throw UserError("the progress dialog has no Cancel button");
+  }
+  dialog.pressCancel();
+}
+
+ProgressDialogObject& Session::progressDialog() const {
+  ProgressDialogObject* dialog = host_->ui().shownProgress();
+  if (dialog == nullptr) {
+    throw UserError("no progress dialog is shown");
+  }
+  return *dialog;
+}
+
 void Session::openDesign(std::unique_ptr<model::Design> design) {
   note("opens " + design->name);
   host_->open(std::move(design));

@@ -5,10 +5,12 @@
 #include <Core/CoreAll.h>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/runtime/host.h"
@@ -44,6 +46,18 @@ class Session {
   bool stopAddIn();
   /// Unloads the module, as the host does after `stop`.
   void unloadAddIn();
+
+  /// Loads a script module, calls its `run` and unloads it, all before it returns, as the host does with scripts: what
+  /// `run` answered, or false when it raised. Raises std::runtime_error when the module cannot be loaded. A progress
+  /// dialog that the script leaves behind is reported.
+  bool runScript(const std::filesystem::path& moduleFile);
+  /// What the person does each time a module lets the host work off its events; empty for nothing.
+  void whileBusy(std::function<void()> action) { host_->whileBusy = std::move(action); }
+  /// The progress dialog that is shown; raises UserError when there is none.
+  ProgressView progress() const;
+  bool isProgressShown() const { return host_->ui().shownProgress() != nullptr; }
+  /// Presses the Cancel button of the progress dialog; raises UserError when there is none.
+  void cancelProgress();
 
   void openDesign(std::unique_ptr<model::Design> design);
   void closeDocument();
@@ -117,6 +131,7 @@ class Session {
   std::string editableText(const std::string& inputId) const;
   void enter(const std::string& inputId, const std::string& text);
   void tickGroup(GroupInput& group, bool isTicked);
+  ProgressDialogObject& progressDialog() const;
   void stepThrough(bool (model::History::*step)(), const char* whenThereIsNone);
   void note(const std::string& action);
   void checkHost();

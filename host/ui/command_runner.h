@@ -42,6 +42,9 @@ class CommandRunner final : public CommandListener {
   const adsk::core::Ptr<CommandObject>& active() const { return active_; }
   bool isDialogOpen() const { return active_ && active_->isShown; }
 
+  /// True while handlers of a command's own events are called, which may not do everything.
+  bool isInCommandEvent() const { return firing == Firing::CommandEvent; }
+
   /// OK: executes and ends the active command.
   void confirm();
   /// Ends the active command without executing it.

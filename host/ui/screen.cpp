@@ -125,6 +125,15 @@ std::optional<DialogView> viewDialog(const UserInterfaceObject& ui) {
   return view;
 }
 
+std::optional<ProgressView> viewProgress(const UserInterfaceObject& ui) {
+  const ProgressDialogObject* dialog = ui.shownProgress();
+  if (dialog == nullptr) {
+    return std::nullopt;
+  }
+  return ProgressView{dialog->shownTitle(), dialog->shownMessage(),    dialog->value(),     dialog->minimum(),
+                      dialog->maximum(),    dialog->hasCancelButton(), dialog->cancelText()};
+}
+
 std::vector<ButtonView> viewToolbar(const UserInterfaceObject& ui) {
   std::vector<ButtonView> buttons;
   for (const auto& workspace : ui.workspaceList().all()) {

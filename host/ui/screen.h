@@ -1,4 +1,5 @@
-// What a person sees on screen, as plain data: the dialog that is open and the buttons of the toolbar.
+// What a person sees on screen, as plain data: the dialog that is open, the progress of a long work, and the buttons of
+// the toolbar.
 #pragma once
 
 #include <optional>
@@ -66,6 +67,18 @@ struct DialogView {
   const InputView* find(const std::string& id) const;
 };
 
+/// A progress dialog as shown.
+struct ProgressView {
+  std::string title;
+  /// With the numbers in it.
+  std::string message;
+  int value = 0;
+  int minimum = 0;
+  int maximum = 0;
+  bool hasCancelButton = false;
+  std::string cancelText;
+};
+
 /// A button in the toolbar.
 struct ButtonView {
   std::string tab;
@@ -84,6 +97,9 @@ struct ButtonView {
 
 /// The dialog as it stands; nothing when no dialog is open.
 std::optional<DialogView> viewDialog(const UserInterfaceObject& ui);
+
+/// The progress dialog as it stands; nothing when none is shown.
+std::optional<ProgressView> viewProgress(const UserInterfaceObject& ui);
 
 /// All visible buttons that a client put into the toolbar, in order.
 std::vector<ButtonView> viewToolbar(const UserInterfaceObject& ui);

@@ -132,6 +132,19 @@ adsk::core::DialogResults UserInterfaceObject::messageBox(const std::string& tex
       text, title, buttons, icon);
 }
 
+Ptr<adsk::core::ProgressDialog> UserInterfaceObject::createProgressDialog() {
+  return call("createProgressDialog", [this] {
+    progressDialogs.push_back(makeObject<ProgressDialogObject>());
+    return Ptr<adsk::core::ProgressDialog>(progressDialogs.back());
+  });
+}
+
+ProgressDialogObject* UserInterfaceObject::shownProgress() const {
+  const auto newest = std::find_if(progressDialogs.rbegin(), progressDialogs.rend(),
+                                   [](const auto& dialog) { return dialog->isOnScreen(); });
+  return newest != progressDialogs.rend() ? newest->get() : nullptr;
+}
+
 std::string UserInterfaceObject::activeCommand() const {
   return call("activeCommand", [this]() -> std::string {
     return runner_.active() ? runner_.active()->definition().texts().id : "SelectCommand";
@@ -151,6 +164,9 @@ void UserInterfaceObject::close() {
   const std::initializer_list<Ptr<ApplicationCommandEventObject>> events{starting, created, terminated};
   for (const auto& event : events) {
     event->markDeleted();
+  }
+  for (const Ptr<ProgressDialogObject>& dialog : progressDialogs) {
+    dialog->markDeleted();
   }
   workspaces_->markGone();
   definitions_->markDeleted();

@@ -14,6 +14,7 @@
 #include "host/ui/events.h"
 #include "host/ui/inputs.h"
 #include "host/ui/message_boxes.h"
+#include "host/ui/progress_dialogs.h"
 #include "host/ui/toolbar.h"
 
 namespace headless {
@@ -52,6 +53,7 @@ class UserInterfaceObject final : public HostObject<adsk::core::UserInterface> {
   adsk::core::DialogResults messageBox(const std::string& text, const std::string& title,
                                        adsk::core::MessageBoxButtonTypes buttons,
                                        adsk::core::MessageBoxIconTypes icon) const override;
+  adsk::core::Ptr<adsk::core::ProgressDialog> createProgressDialog() override;
   std::string activeCommand() const override;
   adsk::core::Ptr<adsk::core::Selections> activeSelections() const override;
 
@@ -62,6 +64,8 @@ class UserInterfaceObject final : public HostObject<adsk::core::UserInterface> {
   CommandRunner& runner() { return runner_; }
   const CommandRunner& runner() const { return runner_; }
   MessageBoxes& boxes() const { return boxes_; }
+  /// The progress dialog that is shown, the newest if there are several; nullptr when there is none.
+  ProgressDialogObject* shownProgress() const;
   std::size_t terminatedHandlerCount() const { return terminated->handlerCount(); }
   /// A sentence for each application-wide event, and each definition's, that handlers are attached to.
   std::vector<std::string> attachedHandlers() const;
@@ -76,6 +80,7 @@ class UserInterfaceObject final : public HostObject<adsk::core::UserInterface> {
   adsk::core::Ptr<WorkspacesObject> workspaces_;
   adsk::core::Ptr<DefinitionsObject> definitions_;
   adsk::core::Ptr<IdleSelection> idleSelection_;
+  std::vector<adsk::core::Ptr<ProgressDialogObject>> progressDialogs;
   mutable MessageBoxes boxes_;
 };
 

@@ -70,6 +70,7 @@ FLAG(ApplicationCommandEventArgs, isCanceled);
 FLAG(BoolValueCommandInput, value);
 TEXT(BoolValueCommandInput, resourceFolder);
 TEXT(BoolValueCommandInput, text);
+HANDLE(ColorProperty, value, Color);
 FLAG(Command, isOKButtonVisible);
 FLAG(Command, isExecutedWhenPreEmpted);
 FLAG(Command, isAutoExecute);
@@ -88,6 +89,7 @@ FLAG(CommandInput, isVisible);
 TEXT(ControlDefinition, name);
 FLAG(ControlDefinition, isEnabled);
 FLAG(ControlDefinition, isVisible);
+TEXT(Document, name);
 static_assert(isPair<FloatProperty, double>(&FloatProperty::value, &FloatProperty::value));
 FLAG(GroupCommandInput, isExpanded);
 FLAG(GroupCommandInput, isEnabledCheckBoxDisplayed);
@@ -95,6 +97,14 @@ FLAG(GroupCommandInput, isEnabledCheckBoxChecked);
 TEXT(ListItem, name);
 TEXT(ListItem, icon);
 FLAG(ListItem, isSelected);
+TEXT(ProgressDialog, message);
+TEXT(ProgressDialog, title);
+TEXT(ProgressDialog, cancelButtonText);
+FLAG(ProgressDialog, isCancelButtonShown);
+FLAG(ProgressDialog, isBackgroundTranslucent);
+static_assert(isPair<ProgressDialog, int>(&ProgressDialog::progressValue, &ProgressDialog::progressValue));
+static_assert(isPair<ProgressDialog, int>(&ProgressDialog::minimumValue, &ProgressDialog::minimumValue));
+static_assert(isPair<ProgressDialog, int>(&ProgressDialog::maximumValue, &ProgressDialog::maximumValue));
 TEXT(SelectionCommandInput, commandPrompt);
 FLAG(SelectionCommandInput, hasFocus);
 static_assert(isPair<SelectionCommandInput, std::vector<std::string>, const std::vector<std::string>&>(
@@ -110,6 +120,10 @@ HANDLE(BRepBody, material, Material);
 HANDLE(BRepFace, appearance, Appearance);
 HANDLE(Component, material, Material);
 HANDLE(Occurrence, appearance, Appearance);
+
+static_assert(isPair<Color, short>(&Color::red, &Color::red) && isPair<Color, short>(&Color::green, &Color::green) &&
+              isPair<Color, short>(&Color::blue, &Color::blue) &&
+              isPair<Color, short>(&Color::opacity, &Color::opacity));
 
 #undef FLAG
 #undef TEXT
@@ -146,6 +160,14 @@ static_assert(isMember<&ToolbarControls::addCommand,
 static_assert(isMember<&UserInterface::messageBox,
                        DialogResults (UserInterface::*)(Text, Text, MessageBoxButtonTypes, MessageBoxIconTypes) const>);
 static_assert(isMember<&MaterialLibraries::load, Ptr<MaterialLibrary> (MaterialLibraries::*)(Text)>);
+static_assert(isMember<&Appearances::addByCopy, Ptr<Appearance> (Appearances::*)(const Ptr<Appearance>&, Text)>);
+static_assert(isMember<&Appearance::deleteMe, bool (Appearance::*)()>);
+static_assert(isMember<&Color::create, Ptr<Color> (*)(short, short, short, short)>);
+static_assert(isMember<&Documents::add, Ptr<Document> (Documents::*)(DocumentTypes, bool, const Ptr<NamedValues>&)>);
+static_assert(isMember<&Document::close, bool (Document::*)(bool)>);
+static_assert(isMember<&Products::itemByProductType, Ptr<Product> (Products::*)(Text) const>);
+static_assert(isMember<&ProgressDialog::show, bool (ProgressDialog::*)(Text, Text, int, int, int)>);
+static_assert(isMember<&UserInterface::createProgressDialog, Ptr<ProgressDialog> (UserInterface::*)()>);
 static_assert(isMember<&Application::getLastError, int (Application::*)(std::string*) const>);
 static_assert(isMember<&BRepBody::appearanceSourceType, AppearanceSourceTypes (BRepBody::*)() const>);
 static_assert(isMember<&BRepFace::appearanceSourceType, AppearanceSourceTypes (BRepFace::*)() const>);
@@ -183,9 +205,9 @@ TEST_P(EnumValue, IsAsDocumented) {
 INSTANTIATE_TEST_SUITE_P(
     Core, EnumValue,
     testing::Values(
-        VALUE(OKButtonType, 0), VALUE(OKCancelButtonType, 1), VALUE(RetryCancelButtonType, 2),
-        VALUE(YesNoButtonType, 3), VALUE(YesNoCancelButtonType, 4), VALUE(NoIconIconType, 0),
-        VALUE(QuestionIconType, 1), VALUE(InformationIconType, 2), VALUE(WarningIconType, 3),
+        VALUE(FusionDesignDocumentType, 0), VALUE(OKButtonType, 0), VALUE(OKCancelButtonType, 1),
+        VALUE(RetryCancelButtonType, 2), VALUE(YesNoButtonType, 3), VALUE(YesNoCancelButtonType, 4),
+        VALUE(NoIconIconType, 0), VALUE(QuestionIconType, 1), VALUE(InformationIconType, 2), VALUE(WarningIconType, 3),
         VALUE(CriticalIconType, 4), VALUE(DialogError, -1), VALUE(DialogOK, 0), VALUE(DialogCancel, 1),
         VALUE(DialogYes, 2), VALUE(DialogNo, 3), VALUE(LabeledIconDropDownStyle, 0), VALUE(TextListDropDownStyle, 1),
         VALUE(CheckBoxDropDownStyle, 2), VALUE(UnknownTerminationReason, 0), VALUE(CompletedTerminationReason, 1),

@@ -129,6 +129,13 @@ TEST_F(Gate, MakesTheNthCallFailOnce) {
   EXPECT_EQ(definition->name(), "Name");
 }
 
+TEST_F(Gate, MakesAsManyCallsFailAsItIsTold) {
+  gate().setFault({2, FaultAnswer::Nothing, "", 2});
+  EXPECT_EQ(definition->name(), "Name");
+  EXPECT_EQ(definition->name() + definition->id(), "");
+  EXPECT_EQ(definition->name(), "Name");
+}
+
 TEST_F(Gate, MakesTheNthCallOfANameFail) {
   gate().setFault({2, FaultAnswer::Nothing, "CommandDefinition.name="});
   EXPECT_TRUE(definition->name("a"));

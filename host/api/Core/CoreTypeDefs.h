@@ -60,6 +60,9 @@ enum AppearanceSourceTypes {
   OverrideAppearanceSource = 4
 };
 
+/// Kinds of documents.
+enum DocumentTypes { FusionDesignDocumentType = 0 };
+
 /// Look of a list control in a toolbar.
 enum ListControlDisplayTypes { CheckBoxListType = 0, RadioButtonlistType = 1, StandardListType = 2 };
 

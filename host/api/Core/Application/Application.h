@@ -8,6 +8,7 @@
 namespace adsk {
 namespace core {
 
+class Documents;
 class MaterialLibraries;
 class Product;
 class User;
@@ -23,6 +24,8 @@ class Application : public Base {
   virtual Ptr<UserInterface> userInterface() const = 0;
   /// What is being edited, a Design or something else; empty when no document is open.
   virtual Ptr<Product> activeProduct() const = 0;
+  /// All documents that are open.
+  virtual Ptr<Documents> documents() const = 0;
   /// All material libraries available now.
   virtual Ptr<MaterialLibraries> materialLibraries() const = 0;
   /// The signed-in user; empty when nobody is signed in (the latter assumed).

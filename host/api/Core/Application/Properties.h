@@ -11,7 +11,7 @@ namespace core {
 
 class Property;
 
-/// The properties of a material. All members are documented.
+/// The properties of a material or an appearance. All members are documented.
 class Properties : public Base {
   ADSK_API_CLASS(Properties, Base)
 

@@ -11,7 +11,8 @@ namespace core {
 
 class Appearance;
 
-/// Appearances of a library or a design, in its order. All members are documented.
+/// Appearances of a library or a design, in its order. All members are documented
+/// unless marked.
 class Appearances : public Base {
   ADSK_API_CLASS(Appearances, Base)
 
@@ -23,6 +24,9 @@ class Appearances : public Base {
   virtual Ptr<Appearance> itemByName(const std::string& name) const = 0;
   /// Empty when there is none.
   virtual Ptr<Appearance> itemById(const std::string& id) const = 0;
+  /// Copies an appearance of a library or a design into this design, under that name; a name that is there already is
+  /// there twice then (assumed). Empty on failure, and always for a library.
+  virtual Ptr<Appearance> addByCopy(const Ptr<Appearance>& appearanceToCopy, const std::string& name) = 0;
 };
 
 }  // namespace core

@@ -11,6 +11,7 @@ namespace core {
 
 class ApplicationCommandEvent;
 class CommandDefinitions;
+class ProgressDialog;
 class Selections;
 class Workspaces;
 
@@ -32,6 +33,8 @@ class UserInterface : public Base {
   virtual DialogResults messageBox(const std::string& text, const std::string& title = "",
                                    MessageBoxButtonTypes buttons = OKButtonType,
                                    MessageBoxIconTypes icon = NoIconIconType) const = 0;
+  /// A new progress dialog that is not shown yet.
+  virtual Ptr<ProgressDialog> createProgressDialog() = 0;
   /// Id of the running command's definition; "SelectCommand" when idle.
   virtual std::string activeCommand() const = 0;
   /// The selection outside of commands.

@@ -5,6 +5,9 @@
 #include "../../Core/Base.h"
 
 namespace adsk {
+namespace core {
+class Appearances;
+}
 namespace fusion {
 
 class Component;
@@ -14,6 +17,8 @@ class Design : public core::Product {
   ADSK_API_CLASS(Design, core::Product)
 
   virtual core::Ptr<Component> rootComponent() const = 0;
+  /// The document's own appearances.
+  virtual core::Ptr<core::Appearances> appearances() const = 0;
 };
 
 }  // namespace fusion
