@@ -58,9 +58,6 @@ std::string colourProblem(const Ptr<core::Appearance>& copy, const RalColour& wa
   if (!property) {
     return "the copy has no colour property";
   }
-  if (property->isReadOnly()) {
-    return "its colour cannot be edited";
-  }
   const Ptr<core::Color> colour = core::Color::create(wanted.red, wanted.green, wanted.blue, 255);
   if (!colour || !property->value(colour)) {
     return "its colour was refused";

@@ -41,6 +41,12 @@ bool setChannel(std::uint8_t& channel, short value) {
   return true;
 }
 
+/// As a host reads it back that keeps colours as fractions and cuts off what is beyond.
+model::Colour roundedDown(const model::Colour& colour) {
+  const auto down = [](std::uint8_t channel) { return static_cast<std::uint8_t>(channel > 0 ? channel - 1 : 0); };
+  return {down(colour.red), down(colour.green), down(colour.blue), colour.opacity};
+}
+
 /// Colour first, then roughness where there is one.
 Ptr<Property> propertyAt(MaterialStore& store, const std::shared_ptr<const model::Appearance>& appearance,
                          std::size_t index) {
@@ -130,7 +136,11 @@ size_t AppearancePropertiesObject::count() const {
 
 Ptr<Color> SurfaceColourObject::value() const {
   return call("value", [this]() -> Ptr<Color> {
-    return appearance->hasTexture ? Ptr<Color>() : Ptr<Color>(makeObject<ColorObject>(appearance->colour));
+    if (appearance->hasTexture) {
+      return nullptr;
+    }
+    const bool isRounded = store.hostProfile().coloursRounded;
+    return makeObject<ColorObject>(isRounded ? roundedDown(appearance->colour) : appearance->colour);
   });
 }
 

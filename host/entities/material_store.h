@@ -61,6 +61,8 @@ class MaterialStore {
   adsk::core::Ptr<adsk::core::Appearance> appearance(const std::shared_ptr<const model::Appearance>& data);
   adsk::core::Ptr<adsk::core::Material> material(const std::shared_ptr<const model::Material>& data);
 
+  const Profile& hostProfile() const { return profile; }
+
   /// The open design that the appearance belongs to; nullptr when it is none's own.
   DesignAppearances* ownerOf(const model::Appearance& appearance) const;
   /// Tells whose it is, nullptr for nobody's any more. Handles that were given out for it are not given out again.

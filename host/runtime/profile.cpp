@@ -27,6 +27,7 @@ Profile hostileProfile() {
   profile.cancelledChanges = CancelledChanges::Kept;
   profile.eventGivesGroupInputs = true;
   profile.libraryAppearance = LibraryAppearance::Copied;
+  profile.coloursRounded = true;
   profile.freshWrappers = true;
   profile.hiddenTickIgnored = true;
   profile.tickExpandsGroup = true;

@@ -47,6 +47,8 @@ struct Profile {
   /// An own appearance of a body or face is reported as source 4 instead of 1 or 3.
   bool ownAppearanceIsOverride = false;
   LibraryAppearance libraryAppearance = LibraryAppearance::Accepted;
+  /// A colour of an appearance is kept as fractions, so that each channel may be read back one less than it was set.
+  bool coloursRounded = false;
   /// Every call that gives a model entity gives a new handle object instead of the one known for it.
   bool freshWrappers = false;
   /// The tick of a group's header box is ignored while the box is not displayed.

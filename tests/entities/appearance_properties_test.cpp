@@ -70,6 +70,18 @@ TEST_F(AppearanceProperties, DoNotFollowAColourThatTheyGave) {
   EXPECT_EQ(colour->value()->red(), 9);
 }
 
+TEST_F(AppearanceProperties, MayReadAColourBackOneLess) {
+  profile.coloursRounded = true;
+  open();
+  const auto colour = colourOf(copyOf({"id", "Name", {9, 9, 9}}));
+  EXPECT_TRUE(colour->value(Color::create(10, 0, 255, 255)));
+  const auto shown = colour->value();
+  EXPECT_EQ(shown->red(), 9);
+  EXPECT_EQ(shown->green(), 0);
+  EXPECT_EQ(shown->blue(), 254);
+  EXPECT_EQ(shown->opacity(), 255);
+}
+
 TEST_F(AppearanceProperties, LoseATextureToAColour) {
   const auto copy = copyOf({"id", "Name", {9, 9, 9}, model::Surface::Opaque, 0.5, true});
   const auto colour = colourOf(copy);
