@@ -33,8 +33,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 
 add_library(Tintora MODULE $<TARGET_OBJECTS:tintora_objects>)
-target_link_libraries(Tintora PRIVATE headless_host module_startup)
-if(NOT WIN32)
+target_link_libraries(Tintora PRIVATE host_libraries module_startup)
+if(WIN32)
+  configure_file(cmake/version.rc.in ${CMAKE_BINARY_DIR}/version.rc @ONLY)
+  target_sources(Tintora PRIVATE ${CMAKE_BINARY_DIR}/version.rc)
+  if(MINGW)
+    # What the system's loader needs to place the module anywhere and to keep its data from being run.
+    target_link_options(Tintora PRIVATE -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
+  endif()
+else()
   # Exactly the entry points leave the module, not the templates of the standard library that it uses.
   target_link_options(Tintora PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
   set_target_properties(Tintora PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
@@ -45,11 +52,3 @@ set_target_properties(Tintora PROPERTIES
   SUFFIX ".dll"
   LIBRARY_OUTPUT_DIRECTORY ${TINTORA_ADDIN_FOLDER}
 )
-
-# The headless host's own libraries stand in for those that only the CAD program can make.
-add_custom_target(addin_libraries ALL
-  COMMAND ${CMAKE_COMMAND} -E copy_directory
-    ${PROJECT_SOURCE_DIR}/host/libraries/data ${TINTORA_ADDIN_FOLDER}/resources/Libs
-  COMMENT "Putting the headless libraries beside the module"
-)
-add_dependencies(addin_libraries Tintora)

@@ -29,7 +29,7 @@ add_library(TintoraLibraryBuilder MODULE
   ${CMAKE_BINARY_DIR}/generated/ral_table.cpp
 )
 target_include_directories(TintoraLibraryBuilder PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(TintoraLibraryBuilder PRIVATE host_api headless_host)
+target_link_libraries(TintoraLibraryBuilder PRIVATE host_api host_libraries)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # Unique symbols would keep the module in memory after it was unloaded.
   target_compile_options(TintoraLibraryBuilder PRIVATE -fno-gnu-unique)

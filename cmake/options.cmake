@@ -1,7 +1,15 @@
 # Warnings, sanitizers and coverage, for everything that is built here.
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion)
-if(TINTORA_STRICT)
-  add_compile_options(-Werror)
+if(MSVC)
+  add_compile_options(/W4 /permissive- /utf-8 /EHsc /Brepro $<$<BOOL:${TINTORA_STRICT}>:/WX>)
+  add_link_options(/Brepro)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wconversion $<$<BOOL:${TINTORA_STRICT}>:-Werror>)
+endif()
+
+if(MINGW)
+  # The same sources give the same bytes, whenever and wherever they are built.
+  add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
+  add_link_options(-Wl,--no-insert-timestamp)
 endif()
 
 # The exception of an empty handle is only raised where its assertion is switched off, as in what users install.

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/entities/code_page.h"
 #include "host/entities/design_appearances.h"
 #include "host/entities/material_objects.h"
 #include "host/libraries/library_file.h"
@@ -67,7 +68,8 @@ MaterialStore::Loaded& MaterialStore::addLoaded(model::Library library) {
 
 Ptr<MaterialLibrary> MaterialStore::load(const std::string& fullPath) {
   try {
-    const fs::path given = fs::u8path(fullPath);
+    const fs::path given =
+        profile.libraryPathText == LibraryPathText::CodePage ? pathFromCodePage(fullPath) : fs::u8path(fullPath);
     if (given.extension() != libraryEnding || !given.is_absolute() || !fs::is_regular_file(given)) {
       problems.push_back(fullPath + ": is not the full path of a library file; it must end in \"" + libraryEnding +
                          "\"");

@@ -21,6 +21,34 @@ std::string nameOfCall(const char* className, const char* member) {
 
 }  // namespace
 
+void Recording::start() {
+  firstNumber += lines.size();
+  lines.clear();
+  on = true;
+}
+
+std::optional<std::size_t> Recording::add(int depth, const std::string& text) {
+  if (!on) {
+    return std::nullopt;
+  }
+  lines.push_back({depth, text});
+  return firstNumber + lines.size() - 1;
+}
+
+void Recording::addAnswer(std::size_t line, const std::string& answer) {
+  if (line >= firstNumber) {
+    lines[line - firstNumber].text += " -> " + answer;
+  }
+}
+
+std::string Recording::text() const {
+  std::string all;
+  for (const Line& line : lines) {
+    all.append(2 * static_cast<std::size_t>(line.depth), ' ').append(line.text).append("\n");
+  }
+  return all;
+}
+
 CallGate::CallGate() : previous(activeGate) {
   activeGate = this;
 }
@@ -48,23 +76,9 @@ void CallGate::resetCounts() {
   calls = 0;
 }
 
-void CallGate::startTrace() {
-  lines.clear();
-  tracing = true;
-}
-
 void CallGate::note(const std::string& text) {
-  if (tracing) {
-    lines.push_back({depth, "# " + text});
-  }
-}
-
-std::string CallGate::traceText() const {
-  std::string text;
-  for (const TraceLine& line : lines) {
-    text.append(2 * static_cast<std::size_t>(line.depth), ' ').append(line.text).append("\n");
-  }
-  return text;
+  trace.add(depth, "# " + text);
+  journal.add(depth, "# " + text);
 }
 
 void CallGate::setFault(const Fault& newFault) {
@@ -131,10 +145,8 @@ CallGate::Passage::Passage(CallGate& owner, const char* className, const char* m
     : gate(owner) {
   ++gate.calls;
   ++gate.counts[{className, member}];
-  if (gate.tracing) {
-    line = gate.lines.size();
-    gate.lines.push_back({gate.depth, call});
-  }
+  traceLine = gate.trace.add(gate.depth, call);
+  journalLine = gate.journal.add(gate.depth, call);
   ++gate.depth;
 }
 
@@ -147,8 +159,11 @@ CallGate::Passage::~Passage() {
 
 void CallGate::Passage::answered(const std::string& result) {
   hasAnswer = true;
-  if (line && *line < gate.lines.size()) {
-    gate.lines[*line].text += " -> " + result;
+  if (traceLine) {
+    gate.trace.addAnswer(*traceLine, result);
+  }
+  if (journalLine) {
+    gate.journal.addAnswer(*journalLine, result);
   }
 }
 

@@ -46,10 +46,29 @@ struct Misuse {
   std::string reason;
 };
 
-/// One line of a recorded trace.
-struct TraceLine {
-  int depth = 0;
-  std::string text;
+/// Calls as readable lines, one below and further in than the call that caused it.
+class Recording {
+ public:
+  /// Forgets what was recorded before.
+  void start();
+  void stop() { on = false; }
+  bool isOn() const { return on; }
+  /// Adds a line and gives its number; nothing while the recording is off.
+  std::optional<std::size_t> add(int depth, const std::string& text);
+  /// Adds to a line what its call answered; a line that was forgotten meanwhile stays so.
+  void addAnswer(std::size_t line, const std::string& answer);
+  std::string text() const;
+
+ private:
+  struct Line {
+    int depth = 0;
+    std::string text;
+  };
+
+  bool on = false;
+  /// Numbers go on over a start, so that one from before it is not taken for a later line.
+  std::size_t firstNumber = 0;
+  std::vector<Line> lines;
 };
 
 /// One gate for each host; the newest one that lives is the active one.
@@ -69,13 +88,17 @@ class CallGate {
   void resetCounts();
 
   /// Starts and stops recording; starting forgets what was recorded before.
-  void startTrace();
-  void stopTrace() { tracing = false; }
-  bool isTracing() const { return tracing; }
+  void startTrace() { trace.start(); }
+  void stopTrace() { trace.stop(); }
+  bool isTracing() const { return trace.isOn(); }
   /// Adds a line that is no call, such as the name of an event.
   void note(const std::string& text);
   /// What was recorded, one call a line, indented by depth.
-  std::string traceText() const;
+  std::string traceText() const { return trace.text(); }
+
+  /// A second trace, of everything from here on, however often the first one is started and stopped.
+  void startJournal() { journal.start(); }
+  std::string journalText() const { return journal.text(); }
 
   /// Sets the fault, which replaces the one before.
   void setFault(const Fault& newFault);
@@ -95,7 +118,7 @@ class CallGate {
       return isAlive ? body() : nothing<Result>();
     }
     std::string call;
-    if (gate->tracing) {
+    if (gate->trace.isOn() || gate->journal.isOn()) {
       call = gate->callText(className, object, member, {textOf(arguments)...});
     }
     Passage passage(*gate, className, member, call);
@@ -116,19 +139,20 @@ class CallGate {
   }
 
  private:
-  // Keeps the place of a call in the trace while calls that it causes are recorded below it.
+  // Keeps the place of a call in the recordings while calls that it causes are recorded below it.
   class Passage {
    public:
     Passage(CallGate& owner, const char* className, const char* member, const std::string& call);
     ~Passage();
     Passage(const Passage&) = delete;
     Passage& operator=(const Passage&) = delete;
-    bool isRecorded() const { return line.has_value(); }
+    bool isRecorded() const { return traceLine.has_value() || journalLine.has_value(); }
     void answered(const std::string& result);
 
    private:
     CallGate& gate;
-    std::optional<std::size_t> line;
+    std::optional<std::size_t> traceLine;
+    std::optional<std::size_t> journalLine;
     bool hasAnswer = false;
   };
 
@@ -169,9 +193,9 @@ class CallGate {
   CallGate* previous;
   std::map<CallKey, std::size_t> counts;
   std::size_t calls = 0;
-  bool tracing = false;
   int depth = 0;
-  std::vector<TraceLine> lines;
+  Recording trace;
+  Recording journal;
   std::optional<Fault> fault;
   std::size_t callsBeforeFault = 0;
   bool struck = false;

@@ -7,6 +7,7 @@ namespace headless {
 Profile lenientProfile() {
   Profile profile;
   profile.name = "lenient";
+  profile.libraryPathText = LibraryPathText::CodePage;
   profile.editClearsSelection = EditClearsSelection::Never;
   profile.executeFromTerminated = ExecuteFromTerminated::AtOnce;
   return profile;

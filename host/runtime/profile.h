@@ -25,11 +25,15 @@ enum class EditClearsSelection { Never, AfterEvent, AtOnce };
 /// What executing a definition from the command-terminated event does.
 enum class ExecuteFromTerminated { AfterHandlers, AtOnce, Refused };
 
+/// What the path of a library file is taken for. They differ on Windows only.
+enum class LibraryPathText { Utf8, CodePage };
+
 /// The switches. Each says what its other values are in its type, or what true means.
 struct Profile {
   std::string name = "documented";
 
   SecondLoad secondLoad = SecondLoad::SameLibrary;
+  LibraryPathText libraryPathText = LibraryPathText::Utf8;
   DeletedPanelControls deletedPanelControls = DeletedPanelControls::EmptyCollection;
   Echo echo = Echo::None;
   /// Clearing a selection by program is reported as a change of the selection input.

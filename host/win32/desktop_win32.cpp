@@ -1,8 +1,11 @@
 // The desktop as Windows shows it. Opened files are those that the viewer registered for tests wrote down.
 #include <windows.h>
+// Needs windows.h before it.
+#include <tlhelp32.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <string>
 
 #include "host/win32/desktop.h"
 
@@ -12,6 +15,28 @@ namespace {
 
 const char* logOfOpenedFiles() {
   return std::getenv("TINTORA_OPEN_LOG");
+}
+
+void waitForProcess(DWORD id) {
+  constexpr DWORD patience = 10'000;
+  if (const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, id)) {
+    WaitForSingleObject(process, patience);
+    CloseHandle(process);
+  }
+}
+
+/// Programs that the shell starts run on their own; what the viewer writes down is there when it has ended.
+void waitForViewers() {
+  constexpr const char* viewer = "tintora-viewer.exe";
+  const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+  PROCESSENTRY32 process{};
+  process.dwSize = sizeof process;
+  for (BOOL found = Process32First(processes, &process); found != FALSE; found = Process32Next(processes, &process)) {
+    if (process.th32ParentProcessID == GetCurrentProcessId() && viewer == std::string(process.szExeFile)) {
+      waitForProcess(process.th32ProcessID);
+    }
+  }
+  CloseHandle(processes);
 }
 
 }  // namespace
@@ -26,6 +51,7 @@ Cursor cursor() {
 std::vector<std::string> openedFiles() {
   std::vector<std::string> files;
   if (logOfOpenedFiles() != nullptr) {
+    waitForViewers();
     std::ifstream log(logOfOpenedFiles());
     for (std::string line; std::getline(log, line);) {
       files.push_back(line);
@@ -43,6 +69,7 @@ void reset() {
     ShowCursor(TRUE);
   }
   if (logOfOpenedFiles() != nullptr) {
+    waitForViewers();
     std::ofstream(logOfOpenedFiles()).close();
   }
 }

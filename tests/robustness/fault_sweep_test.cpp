@@ -5,10 +5,12 @@
 // others; TINTORA_SWEEP_STRIDE=1 makes the sample complete.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "tests/robustness/scenario.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/journal.h"
 
 namespace tests {
 namespace {
@@ -89,6 +91,26 @@ TEST_F(FaultSweep, SittingWithoutFaultsUsesEverything) {
                                                        "Remove appearances applied to bodies & faces?"));
   EXPECT_GT(faultless.callsByName.size(), 100U);
 }
+
+class WholeSitting : public FaultSweep, public testing::WithParamInterface<std::string> {
+ protected:
+  std::string journalOfASitting() {
+    folder.remove(settingsFile());
+    return play([](Host& host) { host.gate().startJournal(); }).journal;
+  }
+};
+
+TEST_P(WholeSitting, MakesTheSameCallsEveryTime) {
+  profile = headless::profileNamed(GetParam());
+  const std::string journal = journalOfASitting();
+  EXPECT_GT(std::count(journal.begin(), journal.end(), '\n'), 1000);
+  EXPECT_EQ(journal, journalOfASitting());
+  if (keepsJournals()) {
+    keepJournal(journal, folder.path());
+  }
+}
+
+INSTANTIATE_UNDER_ALL_PROFILES(WholeSitting);
 
 /// Which call of each name fails.
 enum class Which { First, Second, Last };

@@ -142,6 +142,7 @@ class PlayedSitting {
       outcome.misuses.push_back(misuse.call + ": " + misuse.reason);
     }
     session.unloadAddIn();
+    outcome.journal = session.host().gate().journalText();
     note("unload", session.host().inconsistencies());
     if (session.host().ui().terminatedHandlerCount() != 0) {
       note("unload", {"a handler is left behind"});

@@ -28,6 +28,8 @@ struct Outcome {
   std::vector<std::string> looks;
   std::map<std::string, std::size_t> callsByName;
   bool faultStruck = false;
+  /// The host calls, when `prepare` started the gate's journal.
+  std::string journal;
 };
 
 /// Plays the sitting with that module in a session of its own. `prepare` is called once the host is there, before the

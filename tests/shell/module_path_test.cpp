@@ -17,13 +17,6 @@ using ::testing::StartsWith;
 
 class ModulePath : public AddInTest {
  protected:
-  /// Moves the module into a folder below its own, and the libraries with it.
-  void moveModuleTo(const std::string& subfolder) {
-    folder.makeFolder(subfolder);
-    folder.renameModule(subfolder + "/Tintora.dll");
-    fs::rename(folder.path() / "resources", folder.path() / subfolder / "resources");
-  }
-
   /// Uses the dialog once, so that the settings are kept.
   void keepSettings() {
     startDialog();
@@ -74,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Names, ModuleNameWithoutEnding,
                          ::testing::Values(FileName{"Tintora.addin", ""}, FileName{"Tintora.DLL", ""}), moduleNameOf);
 
 TEST_F(ModulePath, FolderNamedLikeAModuleHidesTheGuide) {
-  moveModuleTo("my.dll folder");
+  folder.moveModuleTo("my.dll folder");
   folder.write("my.dll folder/Tintora_UsersGuide.pdf", "%PDF");
   start();
   session().press("idOpenHelp");
@@ -82,7 +75,7 @@ TEST_F(ModulePath, FolderNamedLikeAModuleHidesTheGuide) {
 }
 
 TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
-  moveModuleTo("my.dll folder");
+  folder.moveModuleTo("my.dll folder");
   folder.makeFolder("my_USER_CmdSet.txt folder");
   keepSettings();
   EXPECT_TRUE(folder.has("my_USER_CmdSet.txt folder/Tintora.dll"));
@@ -91,7 +84,7 @@ TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
 TEST_F(ModulePath, IsCutAt260Characters) {
   const std::string longName(120, 'x');
   try {
-    moveModuleTo(longName + "/" + longName);
+    folder.moveModuleTo(longName + "/" + longName);
   } catch (const fs::filesystem_error& error) {
     GTEST_SKIP() << "paths cannot be that long here: " << error.what();
   }
@@ -101,7 +94,7 @@ TEST_F(ModulePath, IsCutAt260Characters) {
 }
 
 TEST_F(ModulePath, AddInFolderIsTheOneOfTheModuleAndNotOfTheHost) {
-  moveModuleTo("below");
+  folder.moveModuleTo("below");
   startDialog();
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
 }

@@ -244,7 +244,9 @@ class OrdinaryUser {
   bool isAdministrator = geteuid() == 0;
 };
 
-TEST_F(SettingsSaving, LeavesAFileAloneThatCanBeWrittenButNotRead) {
+using PosixSettingsSaving = SettingsSaving;
+
+TEST_F(PosixSettingsSaving, LeavesAFileAloneThatCanBeWrittenButNotRead) {
   startDialog();
   folder.write(settingsFile(), "kept\n");
   const fs::path file = folder.path() / settingsFile();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "host/win32/desktop.h"
+#include "tests/support/journal.h"
 
 namespace tests {
 
@@ -23,6 +24,9 @@ AddInTest::~AddInTest() {
 
 void AddInTest::load(Profile profile) {
   session_ = std::make_unique<Session>(std::move(profile));
+  if (keepsJournals()) {
+    host().gate().startJournal();
+  }
   session_->loadAddIn(folder.module());
 }
 
@@ -41,6 +45,9 @@ void AddInTest::finish() {
   if (session_->isAddInLoaded()) {
     session_->stopAddIn();
     session_->unloadAddIn();
+  }
+  if (keepsJournals()) {
+    keepJournal(host().gate().journalText(), folder.path());
   }
   expectNoErrors();
   session_ = nullptr;

@@ -19,6 +19,12 @@ void AddInFolder::renameModule(const std::string& fileName) {
   moduleFile = renamed;
 }
 
+void AddInFolder::moveModuleTo(const fs::path& subfolder) {
+  makeFolder(subfolder);
+  renameModule((subfolder / "Tintora.dll").u8string());
+  fs::rename(folder / "resources", folder / subfolder / "resources");
+}
+
 void AddInFolder::write(const fs::path& file, const std::string& content) const {
   const fs::path target = folder / file;
   fs::create_directories(target.parent_path());

@@ -21,6 +21,9 @@ class AddInFolder {
   /// Gives the module file another name.
   void renameModule(const std::string& fileName);
 
+  /// Moves the module into a folder below its own, and the libraries with it.
+  void moveModuleTo(const std::filesystem::path& subfolder);
+
   /// Writes a file, folders included; the path is relative to the add-in folder.
   void write(const std::filesystem::path& file, const std::string& content) const;
   /// The bytes of a file; the path is relative to the add-in folder.

@@ -1,0 +1,18 @@
+# The module alone against the vendor's SDK, in place of the headless host. The folder is the SDK's API/CPP, which holds
+# include/ and, in one place or another below it, the import libraries.
+if(NOT EXISTS ${TINTORA_VENDOR_SDK}/include/Core/CoreAll.h)
+  message(FATAL_ERROR "TINTORA_VENDOR_SDK: ${TINTORA_VENDOR_SDK}/include/Core/CoreAll.h does not exist. "
+    "Give the folder API/CPP of the CAD program's installation.")
+endif()
+
+add_library(host_api INTERFACE)
+target_include_directories(host_api SYSTEM INTERFACE ${TINTORA_VENDOR_SDK}/include)
+
+# Windows modules have it from their own start-up code.
+add_library(module_startup INTERFACE)
+add_library(host_libraries INTERFACE)
+foreach(name core fusion)
+  find_library(TINTORA_VENDOR_${name} NAMES ${name} ${name}.lib
+    PATHS ${TINTORA_VENDOR_SDK} PATH_SUFFIXES lib lib/x64 lib/win64 NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+  target_link_libraries(host_libraries INTERFACE ${TINTORA_VENDOR_${name}})
+endforeach()

@@ -1,0 +1,112 @@
+// Where the module lies, in folder names that only Windows makes difficult: its narrow paths are in the system's code
+// page, which cannot show every character. The tests expect the western European one (1252).
+#include <windows.h>
+
+#include "host/win32/desktop.h"
+#include "tests/support/addin_fixture.h"
+#include "tests/support/trace.h"
+
+namespace tests {
+namespace {
+
+using headless::desktop::openedFiles;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+class WindowsModulePath : public AddInTest {
+ protected:
+  void SetUp() override { ASSERT_EQ(GetACP(), 1252U) << "these tests are about another code page"; }
+
+  /// Moves the add-in, with a guide, into a folder below its own; the name is UTF-8.
+  void moveTo(const std::string& subfolder) {
+    place = std::filesystem::u8path(subfolder);
+    folder.moveModuleTo(place);
+    folder.write(place / "Tintora_UsersGuide.pdf", "%PDF");
+  }
+  std::string guide() const { return (folder.path() / place / "Tintora_UsersGuide.pdf").u8string(); }
+  bool hasSettings() const { return folder.has(place / settingsFile()); }
+
+  std::filesystem::path place;
+};
+
+/// A host that understands the paths of library files.
+headless::Profile lenientHost() {
+  return headless::lenientProfile();
+}
+
+class WindowsShownFolder : public WindowsModulePath, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(WindowsShownFolder, HoldsGuideLibrariesAndSettings) {
+  moveTo(GetParam());
+  start(lenientHost());
+  session().press("idOpenHelp");
+  EXPECT_THAT(openedFiles(), ElementsAre(guide()));
+  openDialog();
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+  session().pick("Base");
+  session().click("idBtnApply");
+  EXPECT_TRUE(hasSettings());
+  session().pressCancel();
+  openDialog();
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, WindowsShownFolder,
+                         ::testing::Values("my add ins",
+                                           "Gr\xC3\xB6\xC3\x9F"
+                                           "e \xE2\x82\xAC",
+                                           "a;b & c %d"));
+
+TEST_F(WindowsModulePath, WithCharactersThatTheCodePageCannotShowHasBlanksInTheirPlace) {
+  moveTo("\xD0\x96\xD0\xA3\xD0\x9A");
+  folder.makeFolder("blanks");
+  start();
+  session().press("idOpenHelp");
+  EXPECT_THAT(openedFiles(), IsEmpty());
+  session().press("idAssetsMatMng");
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::")));
+  EXPECT_FALSE(hasSettings());
+}
+
+TEST_F(WindowsModulePath, BlanksInPlaceOfCharactersMayLeadToAnotherFolder) {
+  moveTo("x\xD0\x96y");
+  folder.write("x y/Tintora_UsersGuide.pdf", "%PDF");
+  start();
+  session().press("idOpenHelp");
+  EXPECT_THAT(openedFiles(), ElementsAre((folder.path() / "x y/Tintora_UsersGuide.pdf").make_preferred().u8string()));
+}
+
+class WindowsLibraryName : public WindowsModulePath {
+ protected:
+  void SetUp() override {
+    WindowsModulePath::SetUp();
+    folder.write(appearancesFolder / std::filesystem::u8path("Gr\xC3\xBCn.adsklib"),
+                 appearanceLibrary("Green", {"Reed green"}));
+  }
+};
+
+TEST_F(WindowsLibraryName, IsPassedInTheCodePage) {
+  start();
+  host().gate().startTrace();
+  openDialog();
+  EXPECT_THAT(callsWith(host().gate(), {"Gr\xFCn.adsklib"}).size(), 1U);
+}
+
+TEST_F(WindowsLibraryName, IsFoundByAHostThatTakesPathsOfTheCodePage) {
+  startDialog(lenientHost());
+  EXPECT_THAT(itemsOf("idLibAssets"), ::testing::UnorderedElementsAre("RAL_COLORS", "Green"));
+}
+
+TEST_F(WindowsLibraryName, IsPassedOverByAHostThatTakesPathsForUtf8) {
+  startDialog();
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+}
+
+TEST_F(WindowsModulePath, LibrariesWithOtherNamesAreNotFound) {
+  folder.write(appearancesFolder / std::filesystem::u8path("\xD0\x96.adsklib"), appearanceLibrary("Beetle", {"Black"}));
+  startDialog(lenientHost());
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+}
+
+}  // namespace
+}  // namespace tests

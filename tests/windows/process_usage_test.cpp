@@ -1,0 +1,58 @@
+// A module that comes and goes leaves the process as it was: no handle and no memory stays behind.
+#include <windows.h>
+// Needs windows.h before it.
+#include <psapi.h>
+
+#include <cstdint>
+
+#include "tests/support/addin_fixture.h"
+
+namespace tests {
+namespace {
+
+/// Handles are multiples of four. Each is tried, as the system's own count is not there everywhere.
+int openHandles() {
+  constexpr std::uintptr_t highest = 0x4000;
+  int count = 0;
+  for (std::uintptr_t value = 4; value <= highest; value += 4) {
+    DWORD flags = 0;
+    count += GetHandleInformation(reinterpret_cast<HANDLE>(value), &flags) != FALSE ? 1 : 0;
+  }
+  return count;
+}
+
+std::size_t committedBytes() {
+  PROCESS_MEMORY_COUNTERS counters{};
+  K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return counters.PagefileUsage;
+}
+
+class WindowsProcess : public AddInTest {
+ protected:
+  void comeAndGo(int times) {
+    for (int round = 0; round < times; ++round) {
+      session().loadAddIn(folder.module());
+      ASSERT_TRUE(session().runAddIn());
+      ASSERT_TRUE(session().stopAddIn());
+      session().unloadAddIn();
+    }
+  }
+};
+
+TEST_F(WindowsProcess, IsLeftAsItWasByAHundredLoads) {
+  load();
+  session().unloadAddIn();
+  comeAndGo(10);
+  const int handles = openHandles();
+  const std::size_t bytes = committedBytes();
+  ASSERT_GT(handles, 0);
+  ASSERT_GT(bytes, 0U);
+  comeAndGo(100);
+  EXPECT_EQ(openHandles(), handles);
+  // The module alone is larger than a megabyte.
+  EXPECT_LT(committedBytes(), bytes + 512 * 1024);
+  session().loadAddIn(folder.module());
+}
+
+}  // namespace
+}  // namespace tests
