@@ -46,7 +46,12 @@ else()
   target_link_options(Tintora PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
   set_target_properties(Tintora PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endif()
-set(TINTORA_ADDIN_FOLDER ${CMAKE_BINARY_DIR}/addin)
+# Beside the programs, which look for it there.
+if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+  set(TINTORA_ADDIN_FOLDER ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/addin)
+else()
+  set(TINTORA_ADDIN_FOLDER ${CMAKE_BINARY_DIR}/addin)
+endif()
 set_target_properties(Tintora PROPERTIES
   PREFIX ""
   SUFFIX ".dll"

@@ -1,10 +1,11 @@
 #include "host/cli/addin_copy.h"
 
-#include <cstdlib>
+#include <random>
 #include <string>
 #include <system_error>
 
 #include "host/cli/failure.h"
+#include "host/cli/platform.h"
 
 namespace headless::cli {
 
@@ -13,20 +14,28 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* settingsEnding = "_CmdSet.txt";
+constexpr int folderAttempts = 100;
 
 bool isSettingsFile(const fs::path& file) {
-  const std::string name = file.filename().string();
+  const std::string name = file.filename().u8string();
   const std::string ending = settingsEnding;
   return name.size() >= ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 
 fs::path makeTemporaryFolder() {
-  std::string name = (fs::temp_directory_path() / "tintora-host-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) {
-    throw Failure("No folder can be made in " + fs::temp_directory_path().string() +
-                  " for a copy of the add-in. Set TMPDIR to a folder that can be written, or use --keep-settings.");
+  const fs::path parent = fs::temp_directory_path();
+  std::random_device random;
+  std::error_code failed;
+  for (int attempt = 0; attempt < folderAttempts && !failed; ++attempt) {
+    fs::path folder = parent / ("tintora-host-" + std::to_string(random()));
+    if (fs::create_directory(folder, failed)) {
+      fs::permissions(folder, fs::perms::owner_all, failed);
+      return folder;
+    }
   }
-  return name;
+  throw Failure("No folder can be made in " + parent.u8string() +
+                " for a copy of the add-in. Set TMPDIR (on Windows TMP) to a folder that can be written, or use "
+                "--keep-settings.");
 }
 
 // A link is as good as a copy, since nobody writes into these files; it only works on one file system.
@@ -52,9 +61,8 @@ void copyAddIn(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 fs::path addInFolderBesideProgram() {
-  std::error_code failed;
-  const fs::path program = fs::read_symlink("/proc/self/exe", failed);
-  if (failed) {
+  const fs::path program = programFile();
+  if (program.empty()) {
     throw Failure("The system does not tell where this program is: name the add-in's folder with --addin.");
   }
   return program.parent_path() / "addin";
@@ -62,7 +70,7 @@ fs::path addInFolderBesideProgram() {
 
 AddInCopy::AddInCopy(const fs::path& folder, Settings settings) : used(fs::absolute(folder).lexically_normal()) {
   if (!fs::is_regular_file(used / moduleFileName)) {
-    throw Failure("There is no add-in in " + used.string() + ": no file " + moduleFileName +
+    throw Failure("There is no add-in in " + used.u8string() + ": no file " + moduleFileName +
                   ". Build it, or name its folder with --addin.");
   }
   if (settings == Settings::Kept) {

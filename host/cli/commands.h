@@ -9,7 +9,7 @@ namespace headless::cli {
 void addTreeCommand(CLI::App& program);
 /// The add-in's dialog as text.
 void addDialogCommand(CLI::App& program);
-/// A picture of an assembly.
+/// A picture of an assembly; adds nothing in builds without a geometry kernel.
 void addRenderCommand(CLI::App& program);
 /// Assigns an appearance or a material.
 void addApplyCommand(CLI::App& program);
@@ -17,5 +17,7 @@ void addApplyCommand(CLI::App& program);
 void addClearCommand(CLI::App& program);
 /// Shows the add-in at work, step by step.
 void addDemoCommand(CLI::App& program);
+/// Saves an assembly as a file of another kind.
+void addConvertCommand(CLI::App& program);
 
 }  // namespace headless::cli

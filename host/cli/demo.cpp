@@ -126,7 +126,7 @@ class Demo {
     heading("The help button opens the user's guide");
     session.press(ids::helpButton);
     for (const std::string& file : desktop::openedFiles()) {
-      std::cout << "Opened with the program for such files: " << fs::u8path(file).filename().string() << "\n";
+      std::cout << "Opened with the program for such files: " << fs::u8path(file).filename().u8string() << "\n";
     }
   }
 
@@ -174,7 +174,7 @@ class Demo {
 
   void showSettings() {
     for (const auto& entry : fs::directory_iterator(sitting.addIn().folder())) {
-      const std::string name = entry.path().filename().string();
+      const std::string name = entry.path().filename().u8string();
       if (name.find("_CmdSet.txt") == std::string::npos) {
         continue;
       }

@@ -1,7 +1,5 @@
 #include "host/cli/dialog_work.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <iostream>
 #include <map>
@@ -9,6 +7,7 @@
 #include "host/cli/dialog_ids.h"
 #include "host/cli/dialog_text.h"
 #include "host/cli/failure.h"
+#include "host/cli/platform.h"
 #include "host/cli/text_layout.h"
 #include "host/model/resolution.h"
 
@@ -199,7 +198,7 @@ void prepareAnswers(Sitting& sitting, std::optional<bool> answer) {
   Session& session = sitting.session();
   if (answer) {
     session.answerAlways(*answer ? adsk::core::DialogYes : adsk::core::DialogNo);
-  } else if (isatty(STDIN_FILENO) != 0 && isatty(STDERR_FILENO) != 0) {
+  } else if (isTerminal(Stream::Input) && isTerminal(Stream::Error)) {
     session.host().ui().boxes().askBy(askAtTerminal);
   }
 }

@@ -1,4 +1,4 @@
-// The sub-commands that only look: tree, dialog and render.
+// The sub-commands that only look: tree and dialog.
 #include <iostream>
 #include <map>
 #include <memory>
@@ -8,7 +8,6 @@
 #include "host/cli/dialog_text.h"
 #include "host/cli/looks_text.h"
 #include "host/cli/options.h"
-#include "host/cli/picture.h"
 #include "host/cli/picture_files.h"
 #include "host/cli/tree_json.h"
 #include "host/cli/tree_text.h"
@@ -88,28 +87,6 @@ void runDialog(const DialogOptions& options) {
   sitting.stopAddIn();
 }
 
-struct RenderOptions {
-  std::filesystem::path file;
-  std::filesystem::path png;
-  SittingOptions sitting;
-  int width = 1200;
-  int height = 900;
-};
-
-void runRender(const RenderOptions& options) {
-  requireOtherFile(options.file, options.png);
-  Sitting sitting(options.sitting);
-  sitting.open(options.file);
-  // Finer than for viewers, whose smooth shading hides the corners of round faces.
-  const step::MeshQuality quality{0.0005, 0.1};
-  {
-    ProgressLine line(sitting.progress(), "Drawing", options.png.string());
-    const auto triangles = step::trianglesOf(sitting.session().design(), quality, line.reporter());
-    writePng(drawn(triangles, options.width, options.height), options.png);
-  }
-  std::cout << "Saved " << options.png.string() << "\n";
-}
-
 void addStateOptions(CLI::App& command, DialogOptions& options) {
   const auto add = [&](const char* option, auto& value, const char* description, const char* type) {
     return command.add_option(option, value, description)->type_name(type)->group(stateGroup);
@@ -167,20 +144,6 @@ void addDialogCommand(CLI::App& program) {
   addPictureOptions(command, *options);
   addAddInOptions(command, options->sitting);
   command.callback([options] { runDialog(*options); });
-}
-
-void addRenderCommand(CLI::App& program) {
-  const auto options = std::make_shared<RenderOptions>();
-  CLI::App& command = *program.add_subcommand("render", "Draw a picture of an assembly, as it shows up in a viewer");
-  addInputFile(command, options->file);
-  const auto addSize = [&](const char* option, int& size, const char* description) {
-    command.add_option(option, size, description)->check(CLI::Range(16, 8192))->type_name("PIXELS");
-  };
-  command.add_option("--png", options->png, "Where to save the picture")->required()->type_name("OUT.png");
-  addSize("--width", options->width, "Its width, 1200 unless given");
-  addSize("--height", options->height, "Its height, 900 unless given");
-  addHostOptions(command, options->sitting);
-  command.callback([options] { runRender(*options); });
 }
 
 }  // namespace headless::cli

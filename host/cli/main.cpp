@@ -8,7 +8,9 @@
 
 #include "host/cli/commands.h"
 #include "host/cli/failure.h"
+#include "host/cli/geometry.h"
 #include "host/cli/help_formatter.h"
+#include "host/cli/platform.h"
 #include "host/cli/text_layout.h"
 
 namespace {
@@ -24,6 +26,7 @@ constexpr const char* manual = R"(Examples:
       --material 'Stainless Steel AISI 304' --set-appearance-by-material \
       --save steel.step --glb steel.glb
   tintora-host clear red.step --filter body --select '*' --save plain.step
+  tintora-host convert pump.step pump.design.json
 
 Everything is done in the add-in's own dialog. The file that is read is never changed;
 files that are written appear whole or not at all. Progress and errors go to the error
@@ -31,6 +34,12 @@ stream.
 
 Exit codes: 0 done; 1 could not be done, the message says why; 2 the command line makes
 no sense. More about a command: tintora-host COMMAND --help)";
+
+constexpr const char* manualWithoutGeometry =
+    R"(This build has no geometry kernel: it reads and writes design files only, such as
+pump.design.json, which "convert" makes from pump.step in a build that has it.
+
+)";
 
 std::string unknownCommand(const CLI::App& program, const std::string& given) {
   std::vector<std::string> names;
@@ -41,23 +50,26 @@ std::string unknownCommand(const CLI::App& program, const std::string& given) {
   return "There is no command \"" + given + "\"" + (near.empty() ? "; there are " + listed(names, names.size()) : near);
 }
 
-int run(int argc, char** argv) {
-  CLI::App program("Runs the add-in Tintora on STEP assemblies, without the CAD program.", "tintora-host");
+int run(const std::vector<std::string>& arguments) {
+  CLI::App program("Runs the add-in Tintora on assemblies, without the CAD program.", "tintora-host");
+  // A path that begins with a slash is no option, on Windows either.
+  program.allow_windows_style_options(false);
   program.set_version_flag("--version", "tintora-host " TINTORA_VERSION);
   program.formatter(std::make_shared<HelpFormatter>());
   program.require_subcommand(1);
-  program.footer(manual);
+  program.footer((hasGeometry() ? "" : manualWithoutGeometry) + std::string(manual));
   addTreeCommand(program);
   addDialogCommand(program);
   addRenderCommand(program);
   addApplyCommand(program);
   addClearCommand(program);
   addDemoCommand(program);
+  addConvertCommand(program);
   try {
-    program.parse(argc, argv);
+    program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {
-    if (argc > 1 && argv[1][0] != '-' && program.get_subcommands().empty()) {
-      throw UsageError(unknownCommand(program, argv[1]));
+    if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && program.get_subcommands().empty()) {
+      throw UsageError(unknownCommand(program, arguments.front()));
     }
     return program.exit(error) == 0 ? exitSuccess : exitUsage;
   }
@@ -73,8 +85,9 @@ int report(const std::exception& error, int exitCode) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  setUpTerminal();
   try {
-    return run(argc, argv);
+    return run(argumentsOf(argc, argv));
   } catch (const UsageError& error) {
     return report(error, exitUsage);
   } catch (const std::exception& error) {

@@ -1,10 +1,10 @@
 #include "host/cli/options.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdlib>
 
+#include "host/cli/geometry.h"
+#include "host/cli/platform.h"
 #include "host/runtime/profile.h"
 
 namespace headless::cli {
@@ -26,15 +26,24 @@ constexpr const char* hostGroup = "Add-in and host";
 
 }  // namespace
 
+CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::filesystem::path& path,
+                           const std::string& description) {
+  return command.add_option_function<std::string>(
+      name, [&path](const std::string& text) { path = std::filesystem::u8path(text); }, description);
+}
+
 void addInputFile(CLI::App& command, std::filesystem::path& file) {
-  command.add_option("FILE", file, "The assembly, a STEP file (AP203, AP214 or AP242); it is only read")->required();
+  addPathOption(command, "FILE", file,
+                hasGeometry() ? "The assembly, a STEP file (AP203, AP214 or AP242) or a design file (.design.json); it "
+                                "is only read"
+                              : "The assembly, a design file (.design.json); it is only read")
+      ->required();
 }
 
 void addHostOptions(CLI::App& command, SittingOptions& options) {
-  command
-      .add_option("--addin", options.addInFolder,
-                  "Folder of the add-in, with Tintora.dll and resources/Libs; the folder addin beside this program "
-                  "unless given")
+  addPathOption(command, "--addin", options.addInFolder,
+                "Folder of the add-in, with Tintora.dll and resources/Libs; the folder addin beside this program "
+                "unless given")
       ->type_name("FOLDER")
       ->group(hostGroup);
   command.add_flag("-q,--quiet", options.isQuiet, "Show no progress")->group(hostGroup);
@@ -53,7 +62,7 @@ void addAddInOptions(CLI::App& command, SittingOptions& options) {
                 "Run the add-in in its folder, with the dialog as it was last used, and remember it again; without "
                 "this every run starts afresh in a temporary copy")
       ->group(hostGroup);
-  command.add_option("--trace", options.traceFile, "Record every call of the host in this file")
+  addPathOption(command, "--trace", options.traceFile, "Record every call of the host in this file")
       ->type_name("FILE")
       ->group(hostGroup);
   command.add_flag("--count-calls", options.countsCalls, "Print how often each call of the host was made")
@@ -90,13 +99,18 @@ void addPickOptions(CLI::App& command, PickOptions& options, Picking picking) {
 }
 
 void addOutputOptions(CLI::App& command, OutputFiles& outputs) {
-  command.add_option("--save", outputs.step, "Where to save the assembly as STEP (AP214)")
+  addPathOption(command, "--save", outputs.design,
+                hasGeometry() ? "Where to save the assembly, as STEP (AP214) or, by its ending .design.json, as a "
+                                "design file"
+                              : "Where to save the assembly as a design file (.design.json)")
       ->required()
-      ->type_name("OUT.step")
+      ->type_name("OUT")
       ->group(saveGroup);
-  command.add_option("--glb", outputs.glb, "Where to save it for viewers as well")
-      ->type_name("OUT.glb")
-      ->group(saveGroup);
+  if (hasGeometry()) {
+    addPathOption(command, "--glb", outputs.glb, "Where to save it for viewers as well")
+        ->type_name("OUT.glb")
+        ->group(saveGroup);
+  }
 }
 
 bool ColourOption::isOn() const {
@@ -104,7 +118,7 @@ bool ColourOption::isOn() const {
     return when == "always";
   }
   const char* noColour = std::getenv("NO_COLOR");
-  return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
+  return isTerminal(Stream::Output) && (noColour == nullptr || *noColour == '\0');
 }
 
 void addColourOption(CLI::App& command, ColourOption& option) {

@@ -12,6 +12,10 @@
 
 namespace headless::cli {
 
+/// An option or argument that names a file or folder, in UTF-8 on every system.
+CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::filesystem::path& path,
+                           const std::string& description);
+
 /// FILE, the assembly.
 void addInputFile(CLI::App& command, std::filesystem::path& file);
 
@@ -37,7 +41,7 @@ enum class Picking { Required, Optional };
 
 void addPickOptions(CLI::App& command, PickOptions& options, Picking picking);
 
-/// --save, which is required, and --glb.
+/// --save, which is required, and --glb where this build can write it.
 void addOutputOptions(CLI::App& command, OutputFiles& outputs);
 
 /// --colour as given.

@@ -7,10 +7,10 @@
 #include <system_error>
 #include <vector>
 
+#include "host/cli/design_files.h"
 #include "host/cli/failure.h"
+#include "host/cli/geometry.h"
 #include "host/cli/text_layout.h"
-#include "host/step/glb_writer.h"
-#include "host/step/writer.h"
 
 namespace headless::cli {
 
@@ -24,10 +24,13 @@ bool isSameFile(const fs::path& a, const fs::path& b) {
 }
 
 void requireEnding(const char* option, const fs::path& file, const std::vector<std::string>& endings) {
-  std::string ending = file.extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(), [](unsigned char c) { return std::tolower(c); });
-  if (std::find(endings.begin(), endings.end(), ending) == endings.end()) {
-    throw UsageError(std::string(option) + " " + file.string() + ": the name must end in " +
+  std::string name = file.filename().u8string();
+  std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
+  const auto endsIn = [&](const std::string& ending) {
+    return name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
+  };
+  if (std::none_of(endings.begin(), endings.end(), endsIn)) {
+    throw UsageError(std::string(option) + " " + file.u8string() + ": the name must end in " +
                      listed(endings, endings.size()));
   }
 }
@@ -36,18 +39,21 @@ void requireEnding(const char* option, const fs::path& file, const std::vector<s
 
 void requireOtherFile(const fs::path& input, const fs::path& output) {
   if (isSameFile(input, output)) {
-    throw UsageError("\"" + output.string() + "\" is the file that is read, which is never changed: name another one");
+    throw UsageError("\"" + output.u8string() +
+                     "\" is the file that is read, which is never changed: name another one");
   }
 }
 
-void checkOutputs(const fs::path& input, const OutputFiles& outputs) {
-  if (!outputs.step.empty()) {
-    requireEnding("--save", outputs.step, {".step", ".stp", ".p21"});
-    requireOtherFile(input, outputs.step);
+void checkOutputs(const fs::path& input, const OutputFiles& outputs, const char* designOption) {
+  if (!outputs.design.empty()) {
+    requireEnding(designOption, outputs.design, designEndings());
+    requireOtherFile(input, outputs.design);
+    requireGeometryFor(input, outputs.design);
   }
   if (!outputs.glb.empty()) {
     requireEnding("--glb", outputs.glb, {".glb"});
     requireOtherFile(input, outputs.glb);
+    requireGeometryFor(input, outputs.glb);
   }
 }
 
@@ -57,13 +63,13 @@ void writeOutputs(const model::Design& design, const OutputFiles& outputs, Progr
       return;
     }
     {
-      ProgressLine line(progress, "Writing", file.string());
+      ProgressLine line(progress, "Writing", file.u8string());
       write(line.reporter());
     }
-    std::cout << "Saved " << file.string() << "\n";
+    std::cout << "Saved " << file.u8string() << "\n";
   };
-  writeOne(outputs.step, [&](const step::Progress& report) { step::write(design, outputs.step, report); });
-  writeOne(outputs.glb, [&](const step::Progress& report) { step::writeGlb(design, outputs.glb, report); });
+  writeOne(outputs.design, [&](const files::Progress& report) { writeDesign(design, outputs.design, report); });
+  writeOne(outputs.glb, [&](const files::Progress& report) { writeGlb(design, outputs.glb, report); });
 }
 
 }  // namespace headless::cli

@@ -1,11 +1,10 @@
 #include "host/cli/picking.h"
 
-#include <fnmatch.h>
-
 #include <algorithm>
 #include <array>
 
 #include "host/cli/failure.h"
+#include "host/cli/glob.h"
 #include "host/cli/text_layout.h"
 
 namespace headless::cli {
@@ -19,7 +18,7 @@ constexpr std::size_t comparablePaths = 20'000;
 constexpr std::size_t shownPaths = 4;
 
 bool matches(const std::string& pattern, const std::string& path) {
-  return pattern == path || fnmatch(pattern.c_str(), path.c_str(), 0) == 0;
+  return pattern == path || matchesGlob(pattern, path);
 }
 
 std::size_t countOf(const std::vector<Pickable>& objects, const std::string& pattern) {

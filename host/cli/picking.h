@@ -15,9 +15,8 @@ inline const std::vector<std::string> kindWords = {"component", "body", "face"};
 std::string countedKind(std::size_t count, PickKind kind);
 
 /// All objects of that kind whose path (see pickable.h) is a pattern's text or matches it, each once, in the order of
-/// the tree. In a pattern "*" stands for any text, "/" and "+" included, "?" for one byte, "[abc]" for one of these
-/// characters; "\" takes the meaning from the next character. Raises Failure when a pattern matches nothing; it names
-/// what is near.
+/// the tree. In a pattern "*" stands for any text, "/" and "+" included; see glob.h for the rest. Raises Failure when a
+/// pattern matches nothing; it names what is near.
 std::vector<Pickable> matching(const model::Design& design, PickKind kind, const std::vector<std::string>& patterns);
 
 }  // namespace headless::cli

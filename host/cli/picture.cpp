@@ -8,8 +8,8 @@
 #include <limits>
 #include <utility>
 
-#include "host/step/atomic_file.h"
-#include "host/step/error.h"
+#include "host/files/atomic_file.h"
+#include "host/files/error.h"
 
 namespace headless::cli {
 
@@ -204,14 +204,14 @@ Picture drawn(const std::vector<Triangle>& triangles, int width, int height) {
 }
 
 void writePng(const Picture& picture, const std::filesystem::path& file) {
-  step::AtomicFile output(file);
+  files::AtomicFile output(file);
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
   image.width = static_cast<png_uint_32>(picture.width);
   image.height = static_cast<png_uint_32>(picture.height);
   image.format = PNG_FORMAT_RGB;
   if (png_image_write_to_file(&image, output.path().c_str(), 0, picture.pixels.data(), 0, nullptr) == 0) {
-    throw step::Error("Cannot write \"" + file.string() + "\": " + image.message);
+    throw files::Error("Cannot write \"" + file.u8string() + "\": " + image.message);
   }
   output.commit();
 }

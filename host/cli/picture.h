@@ -20,7 +20,7 @@ struct Picture {
 /// white.
 Picture drawn(const std::vector<step::Triangle>& triangles, int width, int height);
 
-/// Writes a PNG file, whole or not at all. Raises step::Error.
+/// Writes a PNG file, whole or not at all. Raises files::Error.
 void writePng(const Picture& picture, const std::filesystem::path& file);
 
 }  // namespace headless::cli

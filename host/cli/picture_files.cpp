@@ -11,7 +11,7 @@
 #include "host/cli/dialog_ids.h"
 #include "host/cli/dialog_picture.h"
 #include "host/cli/failure.h"
-#include "host/step/error.h"
+#include "host/files/error.h"
 
 namespace headless::cli {
 
@@ -62,15 +62,15 @@ std::map<std::string, model::Colour> coloursOfChosenLibrary(Sitting& sitting) {
 }
 
 void save(const std::string& content, const fs::path& file) {
-  step::AtomicFile output(file);
+  files::AtomicFile output(file);
   std::ofstream stream(output.path(), std::ios::binary);
   stream << content;
   stream.close();
   if (!stream) {
-    throw step::Error("Cannot write \"" + file.string() + "\": the disk may be full.");
+    throw files::Error("Cannot write \"" + file.u8string() + "\": the disk may be full.");
   }
   output.commit();
-  std::cout << "Saved " << file.string() << "\n";
+  std::cout << "Saved " << file.u8string() << "\n";
 }
 
 }  // namespace
@@ -97,7 +97,7 @@ void saveDialogPicture(Sitting& sitting, const std::string& openList, const fs::
 void saveMessagePicture(Sitting& sitting, const fs::path& svg) {
   const auto& boxes = sitting.session().messageBoxes();
   if (boxes.empty()) {
-    throw Failure("The add-in asked nothing, so there is no question to draw in " + svg.string() + ".");
+    throw Failure("The add-in asked nothing, so there is no question to draw in " + svg.u8string() + ".");
   }
   save(messageBoxPicture(boxes.back()), svg);
 }

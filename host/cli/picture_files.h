@@ -13,7 +13,7 @@ namespace headless::cli {
 std::string embeddedIcon(const std::filesystem::path& folder);
 
 /// The open dialog. `openList` is the id of a drop-down that is drawn open; empty for none. Like the functions below it
-/// raises step::Error when the file cannot be written.
+/// raises files::Error when the file cannot be written.
 void saveDialogPicture(Sitting& sitting, const std::string& openList, const std::filesystem::path& svg);
 
 /// The last message box. Raises Failure when none was shown.

@@ -1,9 +1,9 @@
 #include "host/cli/progress_line.h"
 
-#include <unistd.h>
-
 #include <cstdio>
 #include <iostream>
+
+#include "host/cli/platform.h"
 
 namespace headless::cli {
 
@@ -18,7 +18,7 @@ ProgressStyle progressStyle(bool isQuiet) {
   if (isQuiet) {
     return ProgressStyle::Silent;
   }
-  return isatty(STDERR_FILENO) != 0 ? ProgressStyle::Terminal : ProgressStyle::Lines;
+  return isTerminal(Stream::Error) ? ProgressStyle::Terminal : ProgressStyle::Lines;
 }
 
 ProgressLine::ProgressLine(ProgressStyle progressStyle, const std::string& doing, const std::string& fileName)
@@ -36,7 +36,7 @@ ProgressLine::~ProgressLine() {
   }
 }
 
-step::Progress ProgressLine::reporter() {
+files::Progress ProgressLine::reporter() {
   if (style != ProgressStyle::Terminal) {
     return {};
   }

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <string>
 
-#include "host/step/progress.h"
+#include "host/files/progress.h"
 
 namespace headless::cli {
 
@@ -27,7 +27,7 @@ class ProgressLine {
   ~ProgressLine();
 
   /// To be handed to the operation; this object must outlive it.
-  step::Progress reporter();
+  files::Progress reporter();
 
  private:
   using Clock = std::chrono::steady_clock;

@@ -4,10 +4,10 @@
 #include <fstream>
 #include <utility>
 
+#include "host/cli/design_files.h"
 #include "host/cli/dialog_ids.h"
 #include "host/cli/failure.h"
-#include "host/step/error.h"
-#include "host/step/reader.h"
+#include "host/files/error.h"
 
 namespace headless::cli {
 
@@ -83,8 +83,8 @@ void Sitting::loadMaterialLibraries() {
 
 void Sitting::open(const fs::path& file) {
   const MaterialStore& store = session_->host().materials();
-  ProgressLine line(progress(), "Reading", file.string());
-  auto design = step::read(
+  ProgressLine line(progress(), "Reading", file.u8string());
+  auto design = readDesign(
       file, [&](const std::string& name) { return materialNamed(store, name); }, line.reporter());
   session_->openDesign(std::move(design));
 }
@@ -95,7 +95,7 @@ void Sitting::startAddIn() {
   const bool isStarted = session_->runAddIn();
   requireNoErrors("the add-in was starting");
   if (!isStarted) {
-    throw Failure("The add-in " + addIn_.module().string() + " did not start.");
+    throw Failure("The add-in " + addIn_.module().u8string() + " did not start.");
   }
 }
 
@@ -142,7 +142,7 @@ void Sitting::writeTrace() {
     stream << session_->host().gate().traceText();
     stream.close();
     if (!stream) {
-      throw step::Error("Cannot write \"" + options.traceFile.string() + "\": the disk may be full.");
+      throw files::Error("Cannot write \"" + options.traceFile.u8string() + "\": the disk may be full.");
     }
     traceOutput->commit();
   } catch (const std::exception& error) {

@@ -9,8 +9,8 @@
 
 #include "host/cli/addin_copy.h"
 #include "host/cli/progress_line.h"
+#include "host/files/atomic_file.h"
 #include "host/runtime/session.h"
-#include "host/step/atomic_file.h"
 
 namespace headless::cli {
 
@@ -28,7 +28,7 @@ struct SittingOptions {
 
 class Sitting {
  public:
-  /// Raises Failure when there is no add-in, and step::Error when the trace cannot be written.
+  /// Raises Failure when there is no add-in, and files::Error when the trace cannot be written.
   explicit Sitting(const SittingOptions& sittingOptions);
   Sitting(const Sitting&) = delete;
   Sitting& operator=(const Sitting&) = delete;
@@ -39,7 +39,8 @@ class Sitting {
   const AddInCopy& addIn() const { return addIn_; }
   ProgressStyle progress() const { return progressStyle(options.isQuiet); }
 
-  /// Reads a STEP file and opens it. Materials that the add-in's libraries know by name are taken from there.
+  /// Reads a file (see design_files.h) and opens it. Materials that the add-in's libraries know by name are taken from
+  /// there.
   void open(const std::filesystem::path& file);
   /// Loads and runs the add-in. Raises Failure when it does not start.
   void startAddIn();
@@ -59,7 +60,7 @@ class Sitting {
 
   SittingOptions options;
   AddInCopy addIn_;
-  std::optional<step::AtomicFile> traceOutput;
+  std::optional<files::AtomicFile> traceOutput;
   std::unique_ptr<Session> session_;
   bool isRunning = false;
 };

@@ -18,26 +18,16 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "host/files/format_error.h"
 #include "host/model/materials.h"
 
 namespace headless::libraries {
 
-/// What is wrong with a library file; what() is all of it in one line.
-struct Error : std::runtime_error {
-  Error(std::string fileName, std::string place, std::string wrong, std::string help);
-
-  /// The file, as it was named by the caller.
-  std::string file;
-  /// The place inside it, such as "materials[3].density" or "line 7, column 12"; empty when the whole file is meant.
-  std::string where;
-  std::string problem;
-  /// What to do about it.
-  std::string advice;
-};
+/// What is wrong with a library file.
+using Error = files::FormatError;
 
 /// The library in a file. Raises Error.
 model::Library readLibrary(const std::filesystem::path& file);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -88,6 +89,9 @@ std::shared_ptr<const Material> makeMaterial(std::string name, double density,
 
 /// A look that is known by its colour only, named like "Opaque(255,0,0)" or "Translucent(255,0,0,128)".
 std::shared_ptr<const Appearance> makeColourAppearance(const Colour& colour);
+
+/// Finds a material by name, empty when there is none. An empty function finds nothing.
+using MaterialLookup = std::function<std::shared_ptr<const Material>(const std::string& name)>;
 
 /// What a body is made of when nobody said anything else: "Steel", 7850 kg/m3, satin grey. One object per process.
 const std::shared_ptr<const Material>& defaultMaterial();

@@ -1,15 +1,10 @@
 // The one exception that leaves this folder.
 #pragma once
 
-#include <stdexcept>
-#include <string>
+#include "host/files/error.h"
 
 namespace headless::step {
 
-/// Reading or writing failed. The message names what was being done, the file, the reason and what would help.
-class Error : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+using files::Error;
 
 }  // namespace headless::step

@@ -8,7 +8,7 @@
 #include <XCAFPrs_Style.hxx>
 #include <string>
 
-#include "host/step/atomic_file.h"
+#include "host/files/atomic_file.h"
 #include "host/step/design_walk.h"
 #include "host/step/document.h"
 #include "host/step/kernel_session.h"
@@ -44,13 +44,13 @@ bool save(const Document& document, const std::filesystem::path& path, const Pro
 
 void writeChecked(const model::Design& design, const std::filesystem::path& file, const Progress& progress,
                   const MeshQuality& quality) {
-  AtomicFile output(file);
+  files::AtomicFile output(file);
   requireDepth(design);
   meshBodies(design, quality, progress);
   Document document;
   fillScene(design, document);
   if (!save(document, output.path(), progress)) {
-    failToWrite(file, "the disk refused the data", "Free some space or choose another folder.");
+    files::failToWrite(file, "the disk refused the data", "Free some space or choose another folder.");
   }
   output.commit();
 }
@@ -63,8 +63,8 @@ void writeGlb(const model::Design& design, const std::filesystem::path& file, co
   try {
     writeChecked(design, file, progress, quality);
   } catch (const Standard_Failure& failure) {
-    failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
-                "Leave out parts until it works, and report the part.");
+    files::failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
+                       "Leave out parts until it works, and report the part.");
   }
 }
 

@@ -1,17 +1,12 @@
 // The physical materials of a file as materials of bodies and components.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "host/step/design_builder.h"
 #include "host/step/translated_file.h"
 
 namespace headless::step {
 
-/// Finds a material by name, empty when there is none. An empty function finds nothing.
-using MaterialLookup = std::function<std::shared_ptr<const model::Material>(const std::string& name)>;
+using model::MaterialLookup;
 
 /// Gives bodies, or components without bodies, the materials that the file assigns to them: as a property of the
 /// product or of one of its bodies, or as a raw material that the product is made from. A material that `lookup` knows

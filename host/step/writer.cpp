@@ -10,7 +10,7 @@
 #include <ostream>
 #include <string>
 
-#include "host/step/atomic_file.h"
+#include "host/files/atomic_file.h"
 #include "host/step/design_walk.h"
 #include "host/step/kernel_session.h"
 #include "host/step/material_writer.h"
@@ -40,12 +40,12 @@ void save(const Handle(XSControl_WorkSession) & session, const std::filesystem::
   const bool isPrinted = writer.Print(text);
   output.close();
   if (!isPrinted || !text || !output) {
-    failToWrite(path, "the disk refused the data", "Free some space or choose another folder.");
+    files::failToWrite(path, "the disk refused the data", "Free some space or choose another folder.");
   }
 }
 
 void writeChecked(const model::Design& design, const std::filesystem::path& file, const Progress& progress) {
-  AtomicFile output(file);
+  files::AtomicFile output(file);
   requireDepth(design);
   ProductWriter products(design, progress);
   writeMaterials(products);
@@ -64,8 +64,8 @@ void write(const model::Design& design, const std::filesystem::path& file, const
   try {
     writeChecked(design, file, progress);
   } catch (const Standard_Failure& failure) {
-    failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
-                "Leave out parts until it works, and report the part.");
+    files::failToWrite(file, "the geometry kernel failed (" + std::string(failure.GetMessageString()) + ")",
+                       "Leave out parts until it works, and report the part.");
   }
 }
 

@@ -1,7 +1,5 @@
 #include "tests/cli/cli_fixture.h"
 
-#include <algorithm>
-
 #include "host/step/writer.h"
 
 namespace tests {
@@ -22,28 +20,6 @@ CliTest::CliTest() : rigFile(at("rig.step")) {
   design.root().addInstance(arm, moved(0, 0, 30));
   design.root().addInstance(arm, moved(15, 0, 30));
   write(design, rigFile);
-}
-
-std::vector<std::string> CliTest::filesInFolder() const {
-  std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-    names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-std::string CliTest::succeed(const std::vector<std::string>& arguments) {
-  const Outcome outcome = runProgram(arguments);
-  EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-  return outcome.out;
-}
-
-std::string CliTest::fail(int exitCode, const std::vector<std::string>& arguments) {
-  const Outcome outcome = runProgram(arguments);
-  EXPECT_EQ(outcome.exitCode, exitCode) << outcome.out << outcome.err;
-  EXPECT_EQ(outcome.out, "");
-  return outcome.err;
 }
 
 std::vector<std::string> CliTest::applying(std::vector<std::string> arguments) const {

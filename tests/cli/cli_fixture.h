@@ -1,18 +1,15 @@
-// What the tests of the command line share: a folder of their own, a small assembly in it, and ways to run the program.
+// What the tests of the command line on STEP files share: a small assembly.
 #pragma once
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "tests/cli/program.h"
+#include "tests/cli/program_fixture.h"
 #include "tests/step/made_designs.h"
 
 namespace tests {
 
-class CliTest : public ::testing::Test {
+class CliTest : public ProgramTest {
  protected:
   /// Writes the assembly "Rig":
   ///
@@ -26,25 +23,10 @@ class CliTest : public ::testing::Test {
 
   /// The assembly.
   const std::string& rig() const { return rigFile; }
-  /// A path in the test's folder.
-  std::string at(const std::string& name) const { return (folder / name).string(); }
-  bool exists(const std::string& name) const { return std::filesystem::exists(folder / name); }
-  std::string content(const std::string& name) const { return headless::step::contentOf(folder / name); }
-  /// Names of everything in the test's folder, sorted.
-  std::vector<std::string> filesInFolder() const;
-
-  /// Runs a command that must succeed; gives its standard output.
-  static std::string succeed(const std::vector<std::string>& arguments);
-  /// Runs a command that must fail with that exit code and write nothing to its standard output; gives the message.
-  static std::string fail(int exitCode, const std::vector<std::string>& arguments);
   /// Runs `apply` on the assembly with the remaining arguments, saving as "out.step".
   std::vector<std::string> applying(std::vector<std::string> arguments) const;
 
-  /// The tree of a file as JSON text.
-  std::string json(const std::string& file) const { return succeed({"tree", file, "--json", "--all"}); }
-
  private:
-  headless::step::TemporaryFolder folder;
   std::string rigFile;
 };
 

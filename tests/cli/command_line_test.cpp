@@ -10,7 +10,8 @@ using ::testing::StartsWith;
 
 TEST_F(CliTest, HelpIsTheManual) {
   const std::string help = succeed({"--help"});
-  for (const char* text : {"tree", "dialog", "render", "apply", "clear", "demo", "Examples:", "Exit codes:"}) {
+  for (const char* text :
+       {"tree", "dialog", "render", "apply", "clear", "demo", "convert", "Examples:", "Exit codes:"}) {
     EXPECT_THAT(help, HasSubstr(text));
   }
 }
@@ -50,7 +51,7 @@ TEST_P(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
 const std::vector<Misuse> misuses = {
     {"NoCommand", {}, "subcommand is required"},
     {"MisspeltCommand", {"tre", "RIG"}, "There is no command \"tre\"; did you mean \"tree\"?"},
-    {"UnknownCommand", {"quux"}, "there are tree, dialog, render, apply, clear, demo"},
+    {"UnknownCommand", {"quux"}, "there are tree, dialog, render, apply, clear, demo, convert"},
     {"NoFile", {"tree"}, "FILE is required"},
     {"UnknownOption", {"tree", "RIG", "--jason"}, "--jason"},
     {"UnknownKind", {"apply", "RIG", "--filter", "edge", "--select", "*", "--save", "OUT"}, "edge"},
@@ -75,7 +76,7 @@ const std::vector<Misuse> misuses = {
     {"UnknownProfile", {"dialog", "RIG", "--profile", "rude"}, "rude"},
     {"StepUnderAnotherEnding",
      {"clear", "RIG", "--filter", "body", "--select", "*", "--save", "out.glb"},
-     "--save out.glb: the name must end in .step, .stp, .p21"},
+     "--save out.glb: the name must end in .step, .stp, .p21, .design.json"},
     {"GlbUnderAnotherEnding",
      {"clear", "RIG", "--filter", "body", "--select", "*", "--save", "OUT", "--glb", "out.step"},
      "the name must end in .glb"},

@@ -17,9 +17,10 @@ namespace tests {
 
 namespace {
 
-constexpr const char* program = TINTORA_HOST_PROGRAM;
+constexpr const char* usualProgram = TINTORA_HOST_PROGRAM;
+constexpr const char* plainProgram = TINTORA_PLAIN_HOST_PROGRAM;
 
-std::vector<char*> argumentsFor(const std::vector<std::string>& arguments) {
+std::vector<char*> argumentsFor(const char* program, const std::vector<std::string>& arguments) {
   std::vector<char*> list{const_cast<char*>(program)};
   for (const std::string& argument : arguments) {
     list.push_back(const_cast<char*>(argument.c_str()));
@@ -65,7 +66,8 @@ class Collector {
 
 }  // namespace
 
-Outcome runProgram(const std::vector<std::string>& arguments) {
+Outcome runProgram(const std::vector<std::string>& arguments, Program program) {
+  const char* file = program == Program::Usual ? usualProgram : plainProgram;
   const Collector out;
   const Collector err;
   posix_spawn_file_actions_t actions;
@@ -74,10 +76,10 @@ Outcome runProgram(const std::vector<std::string>& arguments) {
   posix_spawn_file_actions_adddup2(&actions, out.descriptor(), STDOUT_FILENO);
   posix_spawn_file_actions_adddup2(&actions, err.descriptor(), STDERR_FILENO);
   pid_t child = 0;
-  const int failed = posix_spawn(&child, program, &actions, nullptr, argumentsFor(arguments).data(), environ);
+  const int failed = posix_spawn(&child, file, &actions, nullptr, argumentsFor(file, arguments).data(), environ);
   posix_spawn_file_actions_destroy(&actions);
   if (failed != 0) {
-    throw std::runtime_error(std::string("cannot start ") + program);
+    throw std::runtime_error(std::string("cannot start ") + file);
   }
   Outcome outcome;
   outcome.exitCode = waitFor(child);
@@ -87,14 +89,14 @@ Outcome runProgram(const std::vector<std::string>& arguments) {
 }
 
 Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed) {
-  const std::vector<char*> list = argumentsFor(arguments);
+  const std::vector<char*> list = argumentsFor(usualProgram, arguments);
   int terminal = -1;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
   if (child < 0) {
     throw std::runtime_error("no terminal can be made");
   }
   if (child == 0) {
-    execv(program, list.data());
+    execv(usualProgram, list.data());
     _exit(127);
   }
   if (write(terminal, typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {

@@ -14,8 +14,11 @@ struct Outcome {
   std::string err;
 };
 
+/// The program as it is built here, and as it is built where there is no geometry kernel.
+enum class Program { Usual, Plain };
+
 /// Runs the program to its end, without input and without a terminal.
-Outcome runProgram(const std::vector<std::string>& arguments);
+Outcome runProgram(const std::vector<std::string>& arguments, Program program = Program::Usual);
 
 /// Runs it in a terminal in which `typed` is typed; `out` is all that the terminal shows, line breaks as plain "\n".
 Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed);

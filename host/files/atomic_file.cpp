@@ -1,12 +1,12 @@
-#include "host/step/atomic_file.h"
+#include "host/files/atomic_file.h"
 
 #include <random>
 #include <system_error>
 #include <utility>
 
-#include "host/step/error.h"
+#include "host/files/error.h"
 
-namespace headless::step {
+namespace headless::files {
 
 namespace fs = std::filesystem;
 
@@ -56,4 +56,4 @@ void AtomicFile::commit() {
   }
 }
 
-}  // namespace headless::step
+}  // namespace headless::files

@@ -1,12 +1,12 @@
 // Progress is told in order and not too often.
-#include "host/step/progress.h"
+#include "host/files/progress.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <vector>
 
-namespace headless::step {
+namespace headless::files {
 namespace {
 
 TEST(Progress, BeginsWithZeroAndEndsWithOne) {
@@ -44,4 +44,4 @@ TEST(Progress, MayBeAskedForByNobody) {
 }
 
 }  // namespace
-}  // namespace headless::step
+}  // namespace headless::files

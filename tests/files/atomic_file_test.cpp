@@ -1,13 +1,27 @@
 // Output files are whole or not there.
-#include "host/step/atomic_file.h"
+#include "host/files/atomic_file.h"
 
 #include <gtest/gtest.h>
 
-#include "host/step/error.h"
-#include "tests/step/made_designs.h"
+#include <fstream>
+#include <sstream>
+#include <string>
 
-namespace headless::step {
+#include "host/files/error.h"
+#include "tests/support/temporary_folder.h"
+
+namespace headless::files {
 namespace {
+
+void fillFile(const std::filesystem::path& file, const std::string& content) {
+  std::ofstream(file, std::ios::binary) << content;
+}
+
+std::string contentOf(const std::filesystem::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file, std::ios::binary).rdbuf();
+  return text.str();
+}
 
 class AtomicFileTest : public ::testing::Test {
  protected:
@@ -15,8 +29,8 @@ class AtomicFileTest : public ::testing::Test {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder.path()), {}));
   }
 
-  TemporaryFolder folder;
-  std::filesystem::path target = folder / "out.txt";
+  tests::TemporaryFolder folder;
+  std::filesystem::path target = folder.path() / "out.txt";
 };
 
 TEST_F(AtomicFileTest, AppearsWhenCommitted) {
@@ -55,9 +69,9 @@ TEST_F(AtomicFileTest, IsWrittenBesideItsDestination) {
 
 TEST_F(AtomicFileTest, RefusesFoldersAndMissingFolders) {
   EXPECT_THROW(AtomicFile(folder.path()), Error);
-  EXPECT_THROW(AtomicFile(folder / "none/out.txt"), Error);
-  fillFile(folder / "file", "");
-  EXPECT_THROW(AtomicFile(folder / "file/out.txt"), Error);
+  EXPECT_THROW(AtomicFile(folder.path() / "none/out.txt"), Error);
+  fillFile(folder.path() / "file", "");
+  EXPECT_THROW(AtomicFile(folder.path() / "file/out.txt"), Error);
 }
 
 TEST_F(AtomicFileTest, RefusesFoldersThatCannotBeWritten) {
@@ -73,4 +87,4 @@ TEST_F(AtomicFileTest, SaysWhenNothingWasWritten) {
 }
 
 }  // namespace
-}  // namespace headless::step
+}  // namespace headless::files

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-namespace headless::step {
+namespace headless::files {
 
 /// Raises Error: what cannot be written, why, and what would help.
 [[noreturn]] void failToWrite(const std::filesystem::path& file, const std::string& why, const std::string& help);
@@ -32,4 +32,4 @@ class AtomicFile {
   std::filesystem::path temporary;
 };
 
-}  // namespace headless::step
+}  // namespace headless::files

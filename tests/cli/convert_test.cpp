@@ -1,0 +1,77 @@
+// From STEP files to design files.
+#include <algorithm>
+#include <cctype>
+
+#include "tests/cli/cli_fixture.h"
+#include "tests/cli/demo_steps.h"
+#include "tests/step/step_files.h"
+
+namespace tests {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+class ConvertedAssembly : public CliTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(ConvertedAssembly, HasTheSameTree) {
+  WITH_STEP_FILE(file, GetParam());
+  succeed({"convert", file.string(), at("out.design.json")});
+  const std::string tree = json(file.string());
+  EXPECT_THAT(tree, HasSubstr("\"occurrences\""));
+  EXPECT_TRUE(json(at("out.design.json")) == tree) << "the trees of " << file << " and of the design file differ";
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, ConvertedAssembly,
+                         ::testing::Values("as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp",
+                                           "motor-driver-board-v3.5.step", "red_cube_blue_cylinder.step"),
+                         [](const auto& info) {
+                           std::string name = info.param;
+                           std::replace_if(
+                               name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+                           return name;
+                         });
+
+TEST_F(CliTest, ConvertKeepsTheTreeOfASmallAssembly) {
+  EXPECT_EQ(succeed({"convert", rig(), at("rig.design.json")}), "Saved " + at("rig.design.json") + "\n");
+  EXPECT_EQ(json(at("rig.design.json")), json(rig()));
+}
+
+TEST_F(CliTest, ConvertWritesStepAsWell) {
+  succeed({"convert", rig(), at("copy.stp")});
+  EXPECT_EQ(json(at("copy.stp")), json(rig()));
+}
+
+TEST_F(CliTest, ConvertNeedsAnEndingThatItKnows) {
+  EXPECT_THAT(fail(2, {"convert", rig(), at("out.json")}), HasSubstr("the name must end in .step, .stp, .p21, "));
+  EXPECT_THAT(fail(2, {"convert", rig(), rig()}), HasSubstr("is the file that is read"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
+TEST_F(CliTest, WhatIsAppliedToAnAssemblyCanBeSavedAsADesignFile) {
+  succeed({"apply", rig(), "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save",
+           at("out.design.json")});
+  EXPECT_THAT(succeed({"tree", at("out.design.json")}), HasSubstr("#A72920  RAL 3000 Flame red  own"));
+}
+
+TEST_F(CliTest, ADesignFileHasNoGeometryForStepViewersAndPictures) {
+  succeed({"convert", rig(), at("rig.design.json")});
+  const auto refused = AllOf(HasSubstr("design files hold no geometry"), HasSubstr("begin with the STEP file"));
+  EXPECT_THAT(fail(2, {"convert", at("rig.design.json"), at("out.step")}), refused);
+  EXPECT_THAT(fail(2, {"clear", at("rig.design.json"), "--filter", "body", "--select", "*", "--save",
+                       at("out.design.json"), "--glb", at("out.glb")}),
+              refused);
+  EXPECT_THAT(fail(2, {"render", at("rig.design.json"), "--png", at("out.png")}), refused);
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.design.json", "rig.step"));
+}
+
+TEST_F(CliTest, TheDemoPlaysOnAConvertedAssembly) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  succeed({"convert", file.string(), at("as1.design.json")});
+  expectEveryStep(runProgram({"demo", at("as1.design.json"), "--save", at("demo.design.json")}, Program::Plain).out);
+  EXPECT_TRUE(exists("demo.design.json"));
+}
+
+}  // namespace
+}  // namespace tests
