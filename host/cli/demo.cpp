@@ -26,6 +26,7 @@ const Picks rodAssembly = {PickKind::Component, {"rod-assembly:1"}};
 constexpr const char* red = "RAL 3000 Flame red";
 constexpr const char* blue = "RAL 5015 Sky blue";
 constexpr const char* steel = "Steel S235JR";
+constexpr const char* usersGuide = "Tintora_UsersGuide.pdf";
 constexpr const char* brass = "Brass C26000";
 
 /// Tells the steps, one function each.
@@ -125,6 +126,9 @@ class Demo {
   void openHelp() {
     heading("The help button opens the user's guide");
     session.press(ids::helpButton);
+    if (!fs::exists(sitting.addIn().folder() / usersGuide)) {
+      say(std::string(usersGuide) + " is not in the add-in's folder, so nothing opens.");
+    }
     for (const std::string& file : desktop::openedFiles()) {
       std::cout << "Opened with the program for such files: " << fs::u8path(file).filename().u8string() << "\n";
     }
