@@ -59,7 +59,7 @@ std::string attributes(const TextStyle& style) {
   return text;
 }
 
-double widthOf(const TextRun& run, double size) {
+double drawnWidthOf(const TextRun& run, double size) {
   return textWidth(run.text, run.isSuperscript ? size * superscriptSize : size, run.isBold);
 }
 
@@ -95,7 +95,7 @@ class LineFiller {
     if (isLineComplete) {
       piece.text.pop_back();
     }
-    wordWidth += widthOf(piece, size);
+    wordWidth += drawnWidthOf(piece, size);
     word.push_back(std::move(piece));
     if (isWordComplete) {
       finishWord();
