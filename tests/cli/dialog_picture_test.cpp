@@ -7,6 +7,7 @@
 #include <regex>
 
 #include "host/cli/picture_files.h"
+#include "tests/cli/dialog_views.h"
 #include "tests/support/temporary_folder.h"
 
 namespace headless::cli {
@@ -15,16 +16,8 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-InputView input(InputKind kind, const std::string& label) {
-  InputView view;
-  view.kind = kind;
-  view.id = "id" + label;
-  view.label = label;
-  return view;
-}
-
 InputView list(int style, const std::vector<std::string>& names, int selected) {
-  InputView view = input(InputKind::DropDown, "List");
+  InputView view = inputView(InputKind::DropDown, "List");
   view.style = style;
   for (const std::string& name : names) {
     view.items.push_back({name, "", static_cast<int>(view.items.size()) == selected});
@@ -33,26 +26,11 @@ InputView list(int style, const std::vector<std::string>& names, int selected) {
   return view;
 }
 
-InputView group(std::vector<InputView> children) {
-  InputView view = input(InputKind::Group, "Group");
-  view.children = std::move(children);
-  return view;
-}
-
 InputView textBox(const std::string& content, const std::string& text) {
-  InputView view = input(InputKind::TextBox, "Box");
+  InputView view = inputView(InputKind::TextBox, "Box");
   view.content = content;
   view.text = text;
   return view;
-}
-
-DialogView dialogWith(InputView content) {
-  DialogView dialog;
-  dialog.title = "Title";
-  dialog.cancelText = "Close";
-  dialog.hasOkButton = false;
-  dialog.inputs.push_back(std::move(content));
-  return dialog;
 }
 
 std::string pictureOf(InputView content, const PictureStyle& style = {}) {
@@ -76,18 +54,18 @@ double heightOf(const std::string& picture) {
 class PictureOfKind : public ::testing::TestWithParam<InputKind> {};
 
 TEST_P(PictureOfKind, ShowsTheLabel) {
-  EXPECT_THAT(pictureOf(input(GetParam(), "Some label")), HasSubstr(">Some label</text>"));
+  EXPECT_THAT(pictureOf(inputView(GetParam(), "Some label")), HasSubstr(">Some label</text>"));
 }
 
 TEST_P(PictureOfKind, MarksOnlyWhatIsDisabled) {
-  InputView view = input(GetParam(), "Some label");
+  InputView view = inputView(GetParam(), "Some label");
   EXPECT_THAT(pictureOf(view), Not(HasSubstr("aria-disabled")));
   view.isEnabled = false;
   EXPECT_THAT(pictureOf(view), HasSubstr("aria-disabled=\"true\"><title>Some label</title>"));
 }
 
 TEST_P(PictureOfKind, LeavesOutWhatIsHidden) {
-  InputView view = input(GetParam(), "Some label");
+  InputView view = inputView(GetParam(), "Some label");
   view.isVisible = false;
   EXPECT_THAT(pictureOf(view), Not(HasSubstr("Some label")));
 }
@@ -98,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, PictureOfKind,
                                            InputKind::CheckBox, InputKind::Button));
 
 TEST(DialogPicture, ShowsTitleAndButtons) {
-  DialogView dialog = dialogWith(group({}));
+  DialogView dialog = dialogWith(groupView({}));
   EXPECT_THAT(dialogPicture(dialog), HasSubstr(">Title</text>"));
   EXPECT_THAT(dialogPicture(dialog), HasSubstr(">Close</text>"));
   EXPECT_THAT(dialogPicture(dialog), Not(HasSubstr(">Do it</text>")));
@@ -108,25 +86,25 @@ TEST(DialogPicture, ShowsTitleAndButtons) {
 }
 
 TEST(DialogPicture, IsAsWideAsTheDialogAskedFor) {
-  DialogView dialog = dialogWith(group({}));
+  DialogView dialog = dialogWith(groupView({}));
   dialog.width = 512;
   EXPECT_THAT(dialogPicture(dialog), HasSubstr("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"512\""));
 }
 
 TEST(DialogPicture, GrowsWithItsInputs) {
-  const InputView check = input(InputKind::CheckBox, "Check");
-  EXPECT_GT(heightOf(pictureOf(group({check, check}))), heightOf(pictureOf(group({check}))));
+  const InputView check = inputView(InputKind::CheckBox, "Check");
+  EXPECT_GT(heightOf(pictureOf(groupView({check, check}))), heightOf(pictureOf(groupView({check}))));
 }
 
 TEST(DialogPicture, AClosedGroupHidesWhatIsInIt) {
-  InputView closed = group({input(InputKind::CheckBox, "Inside")});
+  InputView closed = groupView({inputView(InputKind::CheckBox, "Inside")});
   EXPECT_THAT(pictureOf(closed), HasSubstr("Inside"));
   closed.isExpanded = false;
   EXPECT_THAT(pictureOf(closed), Not(HasSubstr("Inside")));
 }
 
 TEST(DialogPicture, WhatIsInAnUntickedGroupIsDisabledButNotItsHeader) {
-  InputView unticked = group({input(InputKind::CheckBox, "Inside")});
+  InputView unticked = groupView({inputView(InputKind::CheckBox, "Inside")});
   unticked.hasTick = true;
   const std::string picture = pictureOf(unticked);
   EXPECT_THAT(picture, HasSubstr("aria-disabled=\"true\"><title>Inside</title>"));
@@ -136,14 +114,14 @@ TEST(DialogPicture, WhatIsInAnUntickedGroupIsDisabledButNotItsHeader) {
 }
 
 TEST(DialogPicture, TicksAreDrawn) {
-  InputView check = input(InputKind::CheckBox, "Check");
+  InputView check = inputView(InputKind::CheckBox, "Check");
   const std::string unticked = pictureOf(check);
   check.isTicked = true;
   EXPECT_EQ(timesIn(pictureOf(check), "<path"), timesIn(unticked, "<path") + 1);
 }
 
 TEST(DialogPicture, ASelectionShowsItsPromptOrHowManyArePicked) {
-  InputView selection = input(InputKind::Selection, "Pick");
+  InputView selection = inputView(InputKind::Selection, "Pick");
   selection.text = "Select Body";
   EXPECT_THAT(pictureOf(selection), HasSubstr(">Select Body</text>"));
   selection.selection.resize(3);
@@ -170,7 +148,7 @@ TEST(DialogPicture, ATextBoxIsAtLeastAsHighAsItsRows) {
 }
 
 TEST(DialogPicture, WhatWasTypedIsShown) {
-  InputView filter = input(InputKind::Text, "Filter");
+  InputView filter = inputView(InputKind::Text, "Filter");
   filter.text = "ral & 30";
   EXPECT_THAT(pictureOf(filter), HasSubstr(">ral &amp; 30</text>"));
 }
@@ -215,20 +193,20 @@ TEST(DialogPicture, SwatchesStandInListsWithIconsOnly) {
 }
 
 TEST(DialogPicture, IconsAreTakenFromTheirFolders) {
-  InputView row = input(InputKind::ButtonRow, "Row");
+  InputView row = inputView(InputKind::ButtonRow, "Row");
   row.items = {{"Body", "resources/Body", true}};
-  InputView button = input(InputKind::Button, "Go");
+  InputView button = inputView(InputKind::Button, "Go");
   button.icon = "resources/Go";
   PictureStyle style;
   style.icon = [](const std::string& folder) { return "data:" + folder; };
-  const std::string picture = pictureOf(group({row, button}), style);
+  const std::string picture = pictureOf(groupView({row, button}), style);
   EXPECT_THAT(picture, HasSubstr("href=\"data:resources/Body\""));
   EXPECT_THAT(picture, HasSubstr("href=\"data:resources/Go\""));
   EXPECT_THAT(picture, HasSubstr("<title>Body</title>"));
 }
 
 TEST(DialogPicture, AMissingIconIsAQuestionMark) {
-  InputView button = input(InputKind::Button, "Go");
+  InputView button = inputView(InputKind::Button, "Go");
   button.icon = "resources/Go";
   EXPECT_THAT(pictureOf(button), HasSubstr(">?</text>"));
 }

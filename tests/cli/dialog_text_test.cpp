@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/cli/dialog_views.h"
+
 namespace headless::cli {
 namespace {
 
@@ -10,33 +12,12 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 
 InputView list(std::size_t count, int selected) {
-  InputView view;
-  view.kind = InputKind::DropDown;
-  view.id = "list";
-  view.label = "List";
+  InputView view = inputView(InputKind::DropDown, "List");
   for (std::size_t i = 0; i < count; ++i) {
     view.items.push_back({"item " + std::to_string(i), "", static_cast<int>(i) == selected});
   }
   view.selectedItem = selected;
   return view;
-}
-
-InputView group(std::vector<InputView> children) {
-  InputView view;
-  view.kind = InputKind::Group;
-  view.id = "group";
-  view.label = "Group";
-  view.children = std::move(children);
-  return view;
-}
-
-DialogView dialogWith(InputView input) {
-  DialogView dialog;
-  dialog.title = "Title";
-  dialog.cancelText = "Close";
-  dialog.hasOkButton = false;
-  dialog.inputs.push_back(std::move(input));
-  return dialog;
 }
 
 TEST(DialogText, AListShowsTheChosenItemAndItsNeighbours) {
@@ -57,7 +38,7 @@ TEST(DialogText, AListWithoutChosenItemShowsHowManyThereAre) {
 }
 
 TEST(DialogText, AClosedGroupHidesWhatIsInIt) {
-  InputView closed = group({list(2, 0)});
+  InputView closed = groupView({list(2, 0)});
   closed.isExpanded = false;
   const std::string text = dialogText(dialogWith(closed));
   EXPECT_THAT(text, HasSubstr("▸ Group"));
@@ -65,7 +46,7 @@ TEST(DialogText, AClosedGroupHidesWhatIsInIt) {
 }
 
 TEST(DialogText, WhatIsInAGroupThatIsNotTickedIsGreyedOut) {
-  InputView unticked = group({list(1, 0)});
+  InputView unticked = groupView({list(1, 0)});
   unticked.hasTick = true;
   EXPECT_THAT(dialogText(dialogWith(unticked)), HasSubstr("▾ [ ] Group"));
   EXPECT_THAT(dialogText(dialogWith(unticked)), HasSubstr("▼] (greyed out)"));
@@ -88,9 +69,9 @@ TEST(DialogText, TheOkButtonIsDrawnWhenThereIsOne) {
 }
 
 TEST(DialogText, AnExcerptHasOnlyWhatWasAskedFor) {
-  const DialogView dialog = dialogWith(group({list(2, 0), group({})}));
-  EXPECT_THAT(dialogExcerpt(dialog, {"list"}), HasSubstr("List"));
-  EXPECT_THAT(dialogExcerpt(dialog, {"list"}), Not(HasSubstr("Group")));
+  const DialogView dialog = dialogWith(groupView({list(2, 0), groupView({})}));
+  EXPECT_THAT(dialogExcerpt(dialog, {"idList"}), HasSubstr("List"));
+  EXPECT_THAT(dialogExcerpt(dialog, {"idList"}), Not(HasSubstr("Group")));
   EXPECT_THAT(dialogExcerpt(dialog, {"nix"}), Not(HasSubstr("List")));
 }
 

@@ -171,6 +171,7 @@ class DeepChain : public InspectionTest {
   static constexpr std::size_t depth = 10'000;
 
   void SetUp() override {
+    hasJournal = false;
     start(chainDesign(depth));
     // Looks at both ends, so that there is something to find and to put back.
     deepest().appearance = look("Deepest");

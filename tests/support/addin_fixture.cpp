@@ -24,7 +24,7 @@ AddInTest::~AddInTest() {
 
 void AddInTest::load(Profile profile) {
   session_ = std::make_unique<Session>(std::move(profile));
-  if (keepsJournals()) {
+  if (hasJournal && keepsJournals()) {
     host().gate().startJournal();
   }
   session_->loadAddIn(folder.module());
@@ -46,7 +46,7 @@ void AddInTest::finish() {
     session_->stopAddIn();
     session_->unloadAddIn();
   }
-  if (keepsJournals()) {
+  if (hasJournal && keepsJournals()) {
     keepJournal(host().gate().journalText(), folder.path());
   }
   expectNoErrors();

@@ -86,6 +86,8 @@ class AddInTest : public ::testing::Test {
                           const std::vector<TestMaterial>& materials);
 
   AddInFolder folder;
+  /// Whether the calls are kept where journals are. Names of places in a very deep design are too long to write down.
+  bool hasJournal = true;
 
  private:
   static std::string nameOf(const std::shared_ptr<const headless::model::Appearance>& appearance) {
