@@ -19,7 +19,7 @@ foreach(line IN LISTS ral_lines)
 endforeach()
 configure_file(library_builder/ral_table.cpp.in ${CMAKE_BINARY_DIR}/generated/ral_table.cpp @ONLY)
 
-add_library(TintoraLibraryBuilder MODULE
+add_library(library_builder_objects OBJECT
   library_builder/appearance_maker.cpp
   library_builder/library_builder.cpp
   library_builder/messages.cpp
@@ -28,12 +28,16 @@ add_library(TintoraLibraryBuilder MODULE
   library_builder/target_design.cpp
   ${CMAKE_BINARY_DIR}/generated/ral_table.cpp
 )
-target_include_directories(TintoraLibraryBuilder PRIVATE ${PROJECT_SOURCE_DIR})
-target_link_libraries(TintoraLibraryBuilder PRIVATE host_api host_libraries)
+target_include_directories(library_builder_objects PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(library_builder_objects PUBLIC host_api)
+set_target_properties(library_builder_objects PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # Unique symbols would keep the module in memory after it was unloaded.
-  target_compile_options(TintoraLibraryBuilder PRIVATE -fno-gnu-unique)
+  target_compile_options(library_builder_objects PRIVATE -fno-gnu-unique)
 endif()
+
+add_library(TintoraLibraryBuilder MODULE $<TARGET_OBJECTS:library_builder_objects>)
+target_link_libraries(TintoraLibraryBuilder PRIVATE host_libraries)
 if(NOT WIN32)
   # Exactly the entry point leaves the module; a script has no "stop".
   target_link_options(TintoraLibraryBuilder PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
@@ -41,8 +45,6 @@ if(NOT WIN32)
 endif()
 set(TINTORA_LIBRARY_BUILDER_FOLDER ${CMAKE_BINARY_DIR}/scripts/TintoraLibraryBuilder)
 set_target_properties(TintoraLibraryBuilder PROPERTIES
-  CXX_VISIBILITY_PRESET hidden
-  VISIBILITY_INLINES_HIDDEN ON
   PREFIX ""
   SUFFIX ".dll"
   LIBRARY_OUTPUT_DIRECTORY ${TINTORA_LIBRARY_BUILDER_FOLDER}

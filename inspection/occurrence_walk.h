@@ -31,7 +31,7 @@ bool walkOccurrences(const Ptr<fusion::Occurrence>& top, Missing missing, Reach 
     if (next == Walk::on) {
       path.push({occurrence, items(occurrence->childOccurrences(), missing)});
     }
-    return next != Walk::stop;
+    return next;
   };
 
   // The next child is asked for only when the one before it is done with, all below it included.
@@ -41,22 +41,20 @@ bool walkOccurrences(const Ptr<fusion::Occurrence>& top, Missing missing, Reach 
     }
   };
 
-  bool walking = reachAndEnter(top);
-  while (walking && !path.empty()) {
-    auto& [occurrence, children] = path.top();
-    if (children.atEnd()) {
-      leave(occurrence);
+  Walk next = reachAndEnter(top);
+  while (next != Walk::stop && !path.empty()) {
+    if (path.top().children.atEnd()) {
+      leave(path.top().occurrence);
       path.pop();
       moveOn();
       continue;
     }
-    const std::size_t depth = path.size();
-    walking = reachAndEnter(children.current());
-    if (path.size() == depth) {
+    next = reachAndEnter(path.top().children.current());
+    if (next == Walk::past) {
       moveOn();
     }
   }
-  return !walking;
+  return next == Walk::stop;
 }
 
 }  // namespace tintora

@@ -16,7 +16,7 @@ ADDRESS = "file:///tintora/"
 
 def version():
     text = (PROJECT / "CMakeLists.txt").read_text(encoding="utf-8")
-    return re.search(r"project\(Tintora VERSION ([\d.]+)", text).group(1)
+    return re.search(r"^  VERSION ([\d.]+)$", text, re.MULTILINE).group(1)
 
 
 def html():

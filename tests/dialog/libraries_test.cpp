@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cerrno>
 #include <system_error>
 
 #include "tests/dialog/dialog_fixture.h"
@@ -102,16 +103,17 @@ TEST_F(Libraries, FileThatTheHostCannotReadIsSkipped) {
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
 
-TEST_F(Libraries, LinkToNowhereIsTheHostsToRefuse) {
-  std::error_code error;
-  fs::create_symlink("nowhere", folder.path() / materialsFolder / "gone.adsklib", error);
-  if (error) {
-    GTEST_SKIP() << "links cannot be made here: " << error.message();
-  }
+#ifndef _WIN32
+// Windows lets administrators only make links.
+using PosixLibraries = Libraries;
+
+TEST_F(PosixLibraries, LinkToNowhereIsTheHostsToRefuse) {
+  fs::create_symlink("nowhere", folder.path() / materialsFolder / "gone.adsklib");
   build();
   EXPECT_THAT(loadsOf(materialsFolder / "gone.adsklib"), SizeIs(1));
   EXPECT_THAT(itemsOf("idLibMaterials"), ElementsAre("Metals"));
 }
+#endif
 
 TEST_F(Libraries, AreListedInTheOrderOfTheFileSystem) {
   folder.writeLibraries(appearancesFolder, {appearanceLibrary("Zinc", {}), appearanceLibrary("RAL_COLORS", ralNames),
@@ -156,6 +158,7 @@ TEST_F(Libraries, AreLoadedAnewForEveryDialogAndListedOnce) {
 }
 
 TEST_F(Libraries, AreFoundByTheNextDialogWhenTheyAreAddedMeanwhile) {
+  hasJournal = false;
   build();
   session().pressCancel();
   addMaterialLibrary("Stones.adsklib", "Stones", {{"Basalt"}});
@@ -203,7 +206,8 @@ TEST_P(LibraryFolder, EndsTheDialogWhenItIsMissing) {
   folder.remove(kindFolder());
   build();
   expectFileSystemError("directory_iterator::directory_iterator");
-  EXPECT_EQ(code, std::errc::no_such_file_or_directory);
+  // The module's own error category is another object than the test's.
+  EXPECT_EQ(code.value(), ENOENT);
 }
 
 TEST_P(LibraryFolder, EndsTheDialogWhenItIsAFile) {
@@ -213,16 +217,16 @@ TEST_P(LibraryFolder, EndsTheDialogWhenItIsAFile) {
   expectFileSystemError("directory_iterator::directory_iterator");
 }
 
-TEST_P(LibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
-  std::error_code error;
-  fs::create_symlink("circle", folder.path() / kindFolder() / "circle", error);
-  if (error) {
-    GTEST_SKIP() << "links cannot be made here: " << error.message();
-  }
+#ifndef _WIN32
+using PosixLibraryFolder = LibraryFolder;
+
+TEST_P(PosixLibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
+  fs::create_symlink("circle", folder.path() / kindFolder() / "circle");
   build();
   expectFileSystemError("directory_entry::status");
-  EXPECT_EQ(code, std::errc::too_many_symbolic_link_levels);
+  EXPECT_EQ(code.value(), ELOOP);
 }
+#endif
 
 TEST_P(LibraryFolder, IsReadAgainByTheNextDialog) {
   const std::vector<std::string> files = folder.listing(kindFolder());
@@ -236,9 +240,13 @@ TEST_P(LibraryFolder, IsReadAgainByTheNextDialog) {
   EXPECT_THAT(inputIds(), SizeIs(16));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, LibraryFolder,
-                         ::testing::Values(LibraryKind{"Appearances", 6}, LibraryKind{"Materials", 13}),
-                         [](const auto& info) { return std::string(info.param.name); });
+const auto libraryKinds = ::testing::Values(LibraryKind{"Appearances", 6}, LibraryKind{"Materials", 13});
+const auto nameOfKind = [](const auto& info) { return std::string(info.param.name); };
+
+INSTANTIATE_TEST_SUITE_P(Kinds, LibraryFolder, libraryKinds, nameOfKind);
+#ifndef _WIN32
+INSTANTIATE_TEST_SUITE_P(Kinds, PosixLibraryFolder, libraryKinds, nameOfKind);
+#endif
 
 }  // namespace
 }  // namespace tests

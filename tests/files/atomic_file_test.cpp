@@ -74,12 +74,11 @@ TEST_F(AtomicFileTest, RefusesFoldersAndMissingFolders) {
   EXPECT_THROW(AtomicFile(folder.path() / "file/out.txt"), Error);
 }
 
+#ifndef _WIN32
 TEST_F(AtomicFileTest, RefusesFoldersThatCannotBeWritten) {
-  if (!std::filesystem::exists("/proc/self")) {
-    GTEST_SKIP() << "this system has no folder that nobody can write";
-  }
   EXPECT_THROW(AtomicFile("/proc/self/out.txt"), Error);
 }
+#endif
 
 TEST_F(AtomicFileTest, SaysWhenNothingWasWritten) {
   AtomicFile file(target);

@@ -123,7 +123,7 @@ class UsersGuide(unittest.TestCase):
             self.assert_says(label)
 
     def test_the_version_is_that_of_the_project(self):
-        version = re.search(r"project\(Tintora VERSION ([\d.]+)", (PROJECT / "CMakeLists.txt").read_text()).group(1)
+        version = re.search(r"^  VERSION ([\d.]+)$", (PROJECT / "CMakeLists.txt").read_text(), re.MULTILINE).group(1)
         self.assertIn(f"version {version}", self.pages[0])
 
     def test_fonts_are_embedded(self):

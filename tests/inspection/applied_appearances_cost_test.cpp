@@ -153,6 +153,7 @@ class CallsPerObject : public InspectionTest, public testing::WithParamInterface
 };
 
 TEST_P(CallsPerObject, AreConstantAsTheDesignGrows) {
+  hasJournal = false;
   start();
   const std::size_t calls10 = callsToRefresh(10);
   const std::size_t calls100 = callsToRefresh(100);

@@ -8,6 +8,8 @@ namespace tests {
 namespace {
 
 using headless::FaultAnswer;
+using testing::AnyOf;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 /// Two runs: one that is cancelled after a few colours, and one that is to complete them.
@@ -63,8 +65,11 @@ class LibraryBuilderFaultSweep : public LibraryBuilderTest, public testing::With
       EXPECT_THAT(errors, IsEmpty());
     }
     ASSERT_EQ(messages().size(), 1U);
-    EXPECT_THAT(messages()[0], testing::ContainsRegex(isDone ? " of 216 RAL appearances are in the design"
-                                                             : "[Rr]un (the library builder|it again)"));
+    if (isDone) {
+      EXPECT_THAT(messages()[0], HasSubstr(" of 216 RAL appearances are in the design"));
+    } else {
+      EXPECT_THAT(messages()[0], AnyOf(HasSubstr("un the library builder"), HasSubstr("un it again")));
+    }
   }
 };
 

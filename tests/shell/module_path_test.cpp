@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(Names, ModuleName,
                                            FileName{"Another name.dll", "Another name_USER_CmdSet.txt"},
                                            FileName{"Tintora.dll.dll", "Tintora_USER_CmdSet.txt.dll"},
                                            FileName{"Tintora.dllx.dll", "Tintora_USER_CmdSet.txtx.dll"},
-                                           FileName{"Tintora.DLL.dll", "Tintora.DLL_USER_CmdSet.txt"}),
+                                           FileName{"Other.DLL.dll", "Other.DLL_USER_CmdSet.txt"}),
                          moduleNameOf);
 
 class ModuleNameWithoutEnding : public ModulePath, public ::testing::WithParamInterface<FileName> {};
@@ -82,6 +82,7 @@ TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
 }
 
 TEST_F(ModulePath, IsCutAt260Characters) {
+  hasJournal = false;
   const std::string longName(120, 'x');
   try {
     folder.moveModuleTo(longName + "/" + longName);

@@ -25,6 +25,7 @@ AddInTest::~AddInTest() {
 void AddInTest::load(Profile profile) {
   session_ = std::make_unique<Session>(std::move(profile));
   if (hasJournal && keepsJournals()) {
+    folder.listLibrariesByName();
     host().gate().startJournal();
   }
   session_->loadAddIn(folder.module());

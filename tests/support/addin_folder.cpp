@@ -1,7 +1,10 @@
 #include "tests/support/addin_folder.h"
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
+
+#include "tests/support/journal.h"
 
 namespace tests {
 
@@ -59,12 +62,56 @@ std::vector<std::string> AddInFolder::listing(const fs::path& relative) const {
   return names;
 }
 
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// Puts all entries of a folder away and back in that order.
+void putBackInOrder(const fs::path& folder, const Names& names) {
+  const fs::path aside = folder.parent_path() / "aside";
+  fs::rename(folder, aside);
+  fs::create_directory(folder);
+  for (const std::string& name : names) {
+    fs::rename(aside / fs::u8path(name), folder / fs::u8path(name));
+  }
+  fs::remove(aside);
+}
+
+}  // namespace
+
+// File systems in memory list what came last first, or the other way round; most others go by other rules.
+void AddInFolder::listByName(const fs::path& relative) const {
+  if (!fs::is_directory(folder / relative)) {
+    return;
+  }
+  Names names = listing(relative);
+  std::sort(names.begin(), names.end());
+  const Names backwards(names.rbegin(), names.rend());
+  for (const Names& order : {backwards, names}) {
+    if (listing(relative) != names) {
+      putBackInOrder(folder / relative, order);
+    }
+  }
+  if (listing(relative) != names) {
+    throw std::runtime_error("no listing by name in " + folder.u8string() + ": use a folder in memory for TMPDIR");
+  }
+}
+
+void AddInFolder::listLibrariesByName() const {
+  const fs::path place = fs::relative(moduleFile.parent_path(), folder);
+  listByName(place / appearancesFolder);
+  listByName(place / materialsFolder);
+}
+
 // The order depends on the names of files and not on what is in them.
 void AddInFolder::writeLibraries(const fs::path& libraries, const std::vector<std::string>& contents) const {
   remove(libraries);
   makeFolder(libraries);
   for (std::size_t i = 0; i < contents.size(); ++i) {
     write(libraries / ("Library" + std::to_string(i) + ".adsklib"), "");
+  }
+  if (keepsJournals()) {
+    listByName(libraries);
   }
   const std::vector<std::string> files = listing(libraries);
   for (std::size_t i = 0; i < contents.size(); ++i) {

@@ -32,6 +32,9 @@ class AddInFolder {
   void remove(const std::filesystem::path& file) const;
   /// Names of the entries of a folder, in the order in which the file system lists them.
   std::vector<std::string> listing(const std::filesystem::path& relative) const;
+  /// Makes the file system list the libraries of both kinds by name, as Windows does. Raises std::runtime_error where
+  /// it cannot be brought to that.
+  void listLibrariesByName() const;
   /// Replaces the library files of a folder by these, so that the file system lists them in this order.
   void writeLibraries(const std::filesystem::path& libraries, const std::vector<std::string>& contents) const;
   /// Makes a folder.
@@ -40,6 +43,8 @@ class AddInFolder {
   void addColourIcon(const std::string& key) const;
 
  private:
+  void listByName(const std::filesystem::path& relative) const;
+
   TemporaryFolder parent;
   std::filesystem::path folder;
   std::filesystem::path moduleFile;

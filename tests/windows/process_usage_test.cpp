@@ -40,6 +40,7 @@ class WindowsProcess : public AddInTest {
 };
 
 TEST_F(WindowsProcess, IsLeftAsItWasByAHundredLoads) {
+  hasJournal = false;
   load();
   session().unloadAddIn();
   comeAndGo(10);
