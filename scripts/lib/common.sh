@@ -26,7 +26,9 @@ picture_packages=(librsvg2-bin python3-pil fonts-dejavu-core)
 # What making the user guide and its pictures, and looking into it, take besides.
 guide_packages=(weasyprint python3-markdown fonts-open-sans poppler-utils)
 # What the checks with the second compiler take besides.
-check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14)
+check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 cppcheck)
+# What building for Windows and running that takes besides.
+windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
 
 is_installed() { [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
 

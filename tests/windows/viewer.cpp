@@ -6,7 +6,13 @@
 #include <filesystem>
 #include <fstream>
 
+/// Makes Wine start its desktop, which outlives the program that needed it first and holds that program's pipes.
+void useDesktop() {
+  GetDesktopWindow();
+}
+
 int wmain(int count, wchar_t** arguments) {
+  useDesktop();
   STARTUPINFOW startup{};
   GetStartupInfoW(&startup);
   const bool isVisible = (startup.dwFlags & STARTF_USESHOWWINDOW) == 0 || startup.wShowWindow == SW_SHOWNORMAL;
