@@ -21,6 +21,7 @@
 
 #include "host/step/colours.h"
 #include "host/step/entities.h"
+#include "host/step/kernel_session.h"
 #include "host/step/occurrence_looks.h"
 
 namespace headless::step {
@@ -216,6 +217,9 @@ class SessionStyles {
     std::vector<Handle(HigherUsage)> links{usage};
     for (auto upper = Handle(HigherUsage)::DownCast(usage->UpperUsage()); !upper.IsNull();
          upper = Handle(HigherUsage)::DownCast(upper->UpperUsage())) {
+      if (links.size() > deepestNesting) {
+        return false;  // no assembly goes that deep: the links form a circle
+      }
       links.insert(links.begin(), upper);
     }
     const auto lower = unstyledBelow(usage);
@@ -232,7 +236,7 @@ class SessionStyles {
   std::vector<Handle(HigherUsage)> unstyledBelow(const Handle(HigherUsage) & usage) const {
     std::vector<Handle(HigherUsage)> links;
     for (auto lower = below.find(usage.get()); lower != below.end(); lower = below.find(lower->second.get())) {
-      if (styledUsages.count(lower->second.get()) != 0) {
+      if (styledUsages.count(lower->second.get()) != 0 || links.size() > deepestNesting) {
         return {};
       }
       links.push_back(lower->second);

@@ -142,6 +142,25 @@ TEST_F(StyleReader, NamesAFileThatAnAssemblyRefersToInVain) {
 }
 
 /// A part with one red body and a green face, written and open for edits.
+TEST_F(StyleReader, LeavesColoursOutWhoseChainOfUsagesIsACircle) {
+  model::Design design("Root");
+  auto& middle = design.addComponent("Middle");
+  auto& part = design.addComponent("Part");
+  design.root().addInstance(middle);
+  design.root().addInstance(middle);
+  middle.addInstance(part);
+  addBox(part, "Body");
+  occurrenceAt(design, "Middle:1+Part:1").appearance = colour("#FF0000");
+  write(design, folder / "sound.stp");
+  ASSERT_EQ(looks(*read(folder / "sound.stp")).size(), 1u);
+
+  EditedFile edited(folder / "sound.stp");
+  edited.replace("(#\\d+)( = SPECIFIED_HIGHER_USAGE_OCCURRENCE\\((?:[^,]*,){6})#\\d+,", "$1$2$1,");
+  edited.save(folder / "circle.stp");
+  EXPECT_NE(contentOf(folder / "circle.stp"), contentOf(folder / "sound.stp"));
+  EXPECT_EQ(looks(*read(folder / "circle.stp")), Looks());
+}
+
 class EditedStyles : public ::testing::Test {
  protected:
   EditedStyles() {
