@@ -24,36 +24,11 @@ add_library(tintora_objects OBJECT
   shell/toolbar.cpp
   shell/users_guide.cpp
 )
-target_include_directories(tintora_objects PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(tintora_objects PUBLIC host_api)
-set_target_properties(tintora_objects PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # Unique symbols would keep the module in memory after it was unloaded.
-  target_compile_options(tintora_objects PRIVATE -fno-gnu-unique)
-endif()
-
-add_library(Tintora MODULE $<TARGET_OBJECTS:tintora_objects>)
-target_link_libraries(Tintora PRIVATE host_libraries module_startup)
-if(WIN32)
-  configure_file(cmake/version.rc.in ${CMAKE_BINARY_DIR}/version.rc @ONLY)
-  target_sources(Tintora PRIVATE ${CMAKE_BINARY_DIR}/version.rc)
-  if(MINGW)
-    # What the system's loader needs to place the module anywhere and to keep its data from being run.
-    target_link_options(Tintora PRIVATE -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
-  endif()
-else()
-  # Exactly the entry points leave the module, not the templates of the standard library that it uses.
-  target_link_options(Tintora PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
-  set_target_properties(Tintora PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
-endif()
 # Beside the programs, which look for it there.
 if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
   set(TINTORA_ADDIN_FOLDER ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/addin)
 else()
   set(TINTORA_ADDIN_FOLDER ${CMAKE_BINARY_DIR}/addin)
 endif()
-set_target_properties(Tintora PROPERTIES
-  PREFIX ""
-  SUFFIX ".dll"
-  LIBRARY_OUTPUT_DIRECTORY ${TINTORA_ADDIN_FOLDER}
-)
+add_host_module(Tintora tintora_objects ${TINTORA_ADDIN_FOLDER} "${PROJECT_DESCRIPTION}")
+target_link_libraries(Tintora PRIVATE module_startup)

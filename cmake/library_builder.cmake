@@ -28,26 +28,8 @@ add_library(library_builder_objects OBJECT
   library_builder/target_design.cpp
   ${CMAKE_BINARY_DIR}/generated/ral_table.cpp
 )
-target_include_directories(library_builder_objects PUBLIC ${PROJECT_SOURCE_DIR})
-target_link_libraries(library_builder_objects PUBLIC host_api)
-set_target_properties(library_builder_objects PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # Unique symbols would keep the module in memory after it was unloaded.
-  target_compile_options(library_builder_objects PRIVATE -fno-gnu-unique)
-endif()
-
-add_library(TintoraLibraryBuilder MODULE $<TARGET_OBJECTS:library_builder_objects>)
-target_link_libraries(TintoraLibraryBuilder PRIVATE host_libraries)
-if(NOT WIN32)
-  # Exactly the entry point leaves the module; a script has no "stop".
-  target_link_options(TintoraLibraryBuilder PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
-  set_target_properties(TintoraLibraryBuilder PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
-endif()
 set(TINTORA_LIBRARY_BUILDER_FOLDER ${CMAKE_BINARY_DIR}/scripts/TintoraLibraryBuilder)
-set_target_properties(TintoraLibraryBuilder PROPERTIES
-  PREFIX ""
-  SUFFIX ".dll"
-  LIBRARY_OUTPUT_DIRECTORY ${TINTORA_LIBRARY_BUILDER_FOLDER}
-)
+add_host_module(TintoraLibraryBuilder library_builder_objects ${TINTORA_LIBRARY_BUILDER_FOLDER}
+  "Makes the RAL appearances for the library RAL_COLORS")
 configure_file(library_builder/library_builder.manifest.in
   ${TINTORA_LIBRARY_BUILDER_FOLDER}/TintoraLibraryBuilder.manifest @ONLY)

@@ -6,6 +6,11 @@ else()
   add_compile_options(-Wall -Wextra -Wpedantic -Wconversion $<$<BOOL:${TINTORA_STRICT}>:-Werror>)
 endif()
 
+if(WIN32)
+  # The system's header would define them as macros, wherever the host's headers include it.
+  add_compile_definitions(NOMINMAX)
+endif()
+
 if(MINGW)
   # The same sources give the same bytes, whenever and wherever they are built.
   add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)

@@ -1,7 +1,7 @@
 # The module alone against the vendor's SDK, in place of the headless host. The folder is the SDK's API/CPP, which holds
 # include/ and, in one place or another below it, the import libraries.
-if(NOT EXISTS ${TINTORA_VENDOR_SDK}/include/Core/CoreAll.h)
-  message(FATAL_ERROR "TINTORA_VENDOR_SDK: ${TINTORA_VENDOR_SDK}/include/Core/CoreAll.h does not exist. "
+if(NOT EXISTS "${TINTORA_VENDOR_SDK}/include/Core/CoreAll.h")
+  message(FATAL_ERROR "TINTORA_VENDOR_SDK is \"${TINTORA_VENDOR_SDK}\", where include/Core/CoreAll.h does not exist. "
     "Give the folder API/CPP of the CAD program's installation.")
 endif()
 

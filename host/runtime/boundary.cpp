@@ -7,6 +7,8 @@
 #include <typeinfo>
 #include <utility>
 
+#include "host/runtime/call_gate.h"
+
 namespace headless {
 
 namespace {
@@ -39,6 +41,13 @@ BoundaryError describeCurrentException(const std::string& where) {
   }
 }
 
+/// The text up to the first colon: what follows in errors of the system is in the system's own words.
+void noteInRecordings(const BoundaryError& error) {
+  if (CallGate* const gate = CallGate::active()) {
+    gate->note("raised in " + error.where + ": " + error.kind + ": " + error.what.substr(0, error.what.find(": ")));
+  }
+}
+
 }  // namespace
 
 bool Boundary::run(const std::string& where, const std::function<void()>& work) {
@@ -47,6 +56,7 @@ bool Boundary::run(const std::string& where, const std::function<void()>& work) 
     return true;
   } catch (...) {
     errorList.push_back(describeCurrentException(where));
+    noteInRecordings(errorList.back());
     return false;
   }
 }

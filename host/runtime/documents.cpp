@@ -84,7 +84,7 @@ Ptr<adsk::core::Document> DocumentsObject::add(adsk::core::DocumentTypes documen
   return call(
       "add",
       [&]() -> Ptr<adsk::core::Document> {
-        if (documentType != adsk::core::FusionDesignDocumentType || !visible || host.ui().runner().isInCommandEvent()) {
+        if (!visible || host.ui().runner().isInCommandEvent()) {
           return nullptr;
         }
         return Ptr<adsk::core::Document>(host.openNew(std::make_unique<model::Design>("Untitled")).handle);

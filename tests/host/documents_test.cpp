@@ -50,9 +50,8 @@ TEST_F(OpenDocuments, MayBeClosedInTheBackground) {
   EXPECT_EQ(takeErrors(), Log());
 }
 
-TEST_F(OpenDocuments, AreNotMadeOfOtherKindsOrInvisible) {
+TEST_F(OpenDocuments, AreNotMadeInvisible) {
   EXPECT_FALSE(documents()->add(FusionDesignDocumentType, false));
-  EXPECT_FALSE(documents()->add(static_cast<DocumentTypes>(1)));
   EXPECT_FALSE(Application::get()->activeProduct());
 }
 

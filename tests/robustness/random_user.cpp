@@ -9,6 +9,7 @@
 #include "tests/robustness/painted_machine.h"
 #include "tests/robustness/shortest_failing.h"
 #include "tests/robustness/undo_watch.h"
+#include "tests/support/journal.h"
 
 namespace tests {
 
@@ -169,7 +170,11 @@ class ActionDice {
 
 class WatchedSitting {
  public:
-  WatchedSitting(const std::filesystem::path& module, const headless::Profile& profile) : session(profile) {
+  WatchedSitting(const std::filesystem::path& module, const headless::Profile& profile)
+      : session(profile), folder(module.parent_path()) {
+    if (keepsJournals()) {
+      session.host().gate().startJournal();
+    }
     session.openDesign(paintedMachine());
     session.answerAlways(adsk::core::DialogYes);
     session.loadAddIn(module);
@@ -198,6 +203,9 @@ class WatchedSitting {
       trouble.emplace_back("stop did not succeed");
     }
     session.unloadAddIn();
+    if (keepsJournals()) {
+      keepJournal(session.host().gate().journalText(), folder);
+    }
     addCommonTrouble(trouble);
     return trouble;
   }
@@ -205,6 +213,7 @@ class WatchedSitting {
   Session session;
 
  private:
+  std::filesystem::path folder;
   void addCommonTrouble(Names& trouble) {
     for (const headless::BoundaryError& error : session.takeErrors()) {
       trouble.push_back(error.where + ": " + error.kind + ": " + error.what);

@@ -7,6 +7,7 @@
 
 #include "tests/robustness/shortest_failing.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/journal.h"
 #include "tests/support/seed.h"
 
 namespace tests {
@@ -19,6 +20,9 @@ class RandomUserTest : public AddInTest {
   RandomUserTest() {
     addAppearanceLibrary("Woods.adsklib", "Woods", {"Oak", "Walnut"});
     addMaterialLibrary("Plastics.adsklib", "Plastics", {{"ABS", 1040}, {"Käse", 1100}});
+    if (keepsJournals()) {
+      folder.listLibrariesByName();
+    }
   }
 };
 

@@ -1,6 +1,7 @@
 #include "shell/module_path.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <system_error>
 
 #include "host/win32/desktop.h"
@@ -87,6 +88,7 @@ TEST_F(ModulePath, IsCutAt260Characters) {
   try {
     folder.moveModuleTo(longName + "/" + longName);
   } catch (const fs::filesystem_error& error) {
+    ASSERT_EQ(std::getenv("CI"), nullptr) << error.what();
     GTEST_SKIP() << "paths cannot be that long here: " << error.what();
   }
   start();

@@ -44,11 +44,13 @@ TEST_P(WindowsShownFolder, HoldsGuideLibrariesAndSettings) {
   EXPECT_THAT(openedFiles(), ElementsAre(guide()));
   openDialog();
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+  session().choose("idMaterialList", "Foam");
   session().pick("Base");
   session().click("idBtnApply");
   EXPECT_TRUE(hasSettings());
   session().pressCancel();
   openDialog();
+  EXPECT_EQ(shown("idMaterialList"), "Foam");
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, WindowsShownFolder,
@@ -59,7 +61,6 @@ INSTANTIATE_TEST_SUITE_P(Names, WindowsShownFolder,
 
 TEST_F(WindowsModulePath, WithCharactersThatTheCodePageCannotShowHasBlanksInTheirPlace) {
   moveTo("\xD0\x96\xD0\xA3\xD0\x9A");
-  folder.makeFolder("blanks");
   start();
   session().press("idOpenHelp");
   EXPECT_THAT(openedFiles(), IsEmpty());
