@@ -44,6 +44,11 @@ function Remove-Package([string]$folder) {
     }
 }
 
+function Test-SameFolder([string]$one, [string]$other) {
+    return (Test-Path -LiteralPath $other) -and
+        (Get-Item -LiteralPath $one -Force).FullName -eq (Get-Item -LiteralPath $other -Force).FullName
+}
+
 function Copy-Package([string]$source, [string]$target) {
     New-Item -ItemType Directory -Path $target -Force | Out-Null
     Get-ChildItem -LiteralPath $source -Force |
@@ -61,6 +66,9 @@ function Install-Tintora {
     }
     if ([IO.File]::ReadAllText($module, [Text.Encoding]::ASCII).Contains('TintoraHost.dll')) {
         Stop-WithMessage "This package is for trying Tintora without Fusion 360, which cannot load it; see README.txt. Nothing was installed."
+    }
+    if ((Test-SameFolder $source $addIn) -or (Test-SameFolder $builderSource $builder)) {
+        Stop-WithMessage "The zip file was unpacked where Tintora is to be installed. Unpack it elsewhere and run this script there."
     }
     Remove-Package $addIn
     Remove-Package $builder
