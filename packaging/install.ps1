@@ -4,7 +4,7 @@
 #   powershell -ExecutionPolicy Bypass -File install.ps1
 #   powershell -ExecutionPolicy Bypass -File install.ps1 -Uninstall
 #
-# Settings (*_CmdSet.txt) and libraries (*.adsklib) in Tintora's folder are yours: an update leaves them in place, and
+# Settings (*_CmdSet.txt) and libraries (*.adsklib*) in Tintora's folder are yours: an update leaves them in place, and
 # removing keeps them unless you say otherwise.
 #
 # This script has never been run: it was written where there is no PowerShell. That a running Fusion 360 shows as the
@@ -26,7 +26,7 @@ function Stop-WithMessage([string]$message) {
 }
 
 function Test-OfUser($file) {
-    return $file.Name -like '*_CmdSet.txt' -or $file.Name -like '*.adsklib'
+    return $file.Name -like '*_CmdSet.txt' -or $file.Name -like '*.adsklib*'
 }
 
 function Get-Files([string]$folder) {
