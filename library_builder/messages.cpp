@@ -41,8 +41,10 @@ std::string waysToTheLibrary() {
 
 }  // namespace
 
-core::DialogResults askWhetherToGoOn(const Ptr<core::UserInterface>& ui, std::size_t present) {
-  return ui->messageBox("The open design holds " + std::to_string(present) + " of the " + total() +
+core::DialogResults askWhetherToGoOn(const Ptr<core::UserInterface>& ui, const std::string& designName,
+                                     std::size_t present) {
+  return ui->messageBox("The open design \"" + designName + "\" holds " + std::to_string(present) + " of the " +
+                            total() +
                             " RAL appearances.\n\nYes: add the missing ones to it.\nNo: make all of them in a new "
                             "design.",
                         messageTitle, core::YesNoCancelButtonType, core::QuestionIconType);

@@ -4,6 +4,7 @@
 #include <Core/CoreAll.h>
 
 #include <cstddef>
+#include <string>
 
 #include "library_builder/failure.h"
 
@@ -25,7 +26,8 @@ struct Tally {
 
 /// Asks whether the open design, which holds `present` of the appearances, is to be completed: Yes, No (a new one is
 /// wanted) or Cancel; DialogError when there is no answer.
-adsk::core::DialogResults askWhetherToGoOn(const adsk::core::Ptr<adsk::core::UserInterface>& ui, std::size_t present);
+adsk::core::DialogResults askWhetherToGoOn(const adsk::core::Ptr<adsk::core::UserInterface>& ui,
+                                           const std::string& designName, std::size_t present);
 
 /// Tells that all are there, and how they become a library.
 void tellCompletion(const adsk::core::Ptr<adsk::core::UserInterface>& ui, const Tally& tally);

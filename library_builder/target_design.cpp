@@ -57,7 +57,8 @@ std::optional<TargetDesign> chooseDesign(const Ptr<core::Application>& app, cons
   if (present == 0) {
     return newDesign(app);
   }
-  switch (askWhetherToGoOn(ui, present)) {
+  const Ptr<fusion::Component> root = open->design->rootComponent();
+  switch (askWhetherToGoOn(ui, root ? root->name() : "", present)) {
     case core::DialogYes:
       return open;
     case core::DialogNo:

@@ -121,6 +121,7 @@ TEST_F(LibraryBuilder, FillsGapsAndLeavesWhatIsThere) {
   EXPECT_THAT(listed, SizeIs(216));
   EXPECT_EQ(listed[0], own);
   EXPECT_EQ(own->colour, (headless::model::Colour{1, 2, 3}));
+  EXPECT_THAT(session().messageBoxes().front().text, HasSubstr("The open design \"Machine\" holds 1 of the 216"));
   EXPECT_THAT(lastMessage().text, HasSubstr("215 made now, 1 there before"));
 }
 
