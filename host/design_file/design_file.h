@@ -5,7 +5,9 @@
 //     "format": "headless design",
 //     "version": 1,
 //     "name": "Pump",
-//     "appearances": [{"name": "Flame red", "id": "flame-red", "colour": "#A72920"}],
+//     "appearances": [{"name": "Flame red", "id": "flame-red", "colour": "#A72920",
+//                      "surface": "opaque", "roughness": 0.5, "texture": false}],
+//     "designAppearances": [0],                 those that were copied into the design
 //     "materials": [{"name": "Brass", "id": "brass", "appearance": 0,
 //                    "properties": [{"id": "structural_Density", "name": "Density", "value": 8500, "unit":
 //                    "kg/m^3"}]}],
@@ -20,10 +22,12 @@
 //
 // Appearances, materials and components are meant by their place in the list, from 0; "default" means the default
 // material, and its appearance. An absent "appearance" is one that was not applied, an absent "material" is the default
-// one for bodies and none for components, an absent "placement" moves nothing, an absent "counter" is the next one.
-// "faces" has an entry for each face: its own appearance, or null. "looks" are the appearances that were applied to
-// occurrences: the component whose tree it is, the root unless given, and the way down that tree, the place of the
-// instance in its component at each step. Lists may be left out when they are empty.
+// one for bodies and none for components, an absent "placement" moves nothing, an absent "counter" is the next one. A
+// surface is "opaque", "metal" or "transparent", and its roughness a number from 0 to 1, or null where there is none;
+// the example shows what they are when absent. "faces" has an entry for each face: its own appearance, or null. "looks"
+// are the appearances that were applied to occurrences: the component whose tree it is, the root unless given, and the
+// way down that tree, the place of the instance in its component at each step. Lists may be left out when they are
+// empty.
 #pragma once
 
 #include <filesystem>

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -19,7 +20,8 @@ using Entry = files::JsonEntry;
 constexpr const char* nameAdvice = "give it a \"name\"";
 
 bool isSame(const model::Appearance& a, const model::Appearance& b) {
-  return a.id == b.id && a.name == b.name && a.colour == b.colour;
+  return a.id == b.id && a.name == b.name && a.colour == b.colour && a.surface == b.surface &&
+         a.roughness == b.roughness && a.hasTexture == b.hasTexture;
 }
 
 bool isSame(const model::MaterialProperty& a, const model::MaterialProperty& b) {
@@ -41,8 +43,28 @@ auto& thingAt(const Entry& entry, Things& things, const char* listName) {
   return things[entry.wholeNumber(0, things.size() - 1)];
 }
 
-std::shared_ptr<const model::Appearance> readAppearance(const Entry& entry) {
-  entry.requireObject({"name", "id", "colour"});
+model::Surface readSurface(const Entry& entry) {
+  const std::string word = entry.text();
+  const auto* known = std::find(surfaceWords.begin(), surfaceWords.end(), word);
+  if (known == surfaceWords.end()) {
+    entry.fail("\"" + word + "\" is not a kind of surface", "write \"opaque\", \"metal\" or \"transparent\"");
+  }
+  return static_cast<model::Surface>(known - surfaceWords.begin());
+}
+
+std::optional<double> readRoughness(const Entry& entry) {
+  if (entry.isNull()) {
+    return std::nullopt;
+  }
+  const double roughness = entry.number();
+  if (!(roughness >= 0 && roughness <= 1)) {
+    entry.fail("is no roughness", "write a number from 0, a mirror, to 1, matt, or null");
+  }
+  return roughness;
+}
+
+std::shared_ptr<model::Appearance> readAppearance(const Entry& entry) {
+  entry.requireObject({"name", "id", "colour", "surface", "roughness", "texture"});
   model::Appearance appearance;
   appearance.name = entry.required("name", nameAdvice).text();
   appearance.id = entry.has("id") ? entry["id"].text() : model::idFromName(appearance.name);
@@ -52,7 +74,14 @@ std::shared_ptr<const model::Appearance> readAppearance(const Entry& entry) {
   } catch (const std::invalid_argument&) {
     entry["colour"].fail("\"" + colour + "\" is not a colour", "write #RRGGBB or #RRGGBBAA");
   }
-  return std::make_shared<const model::Appearance>(std::move(appearance));
+  if (entry.has("surface")) {
+    appearance.surface = readSurface(entry["surface"]);
+  }
+  if (entry.has("roughness")) {
+    appearance.roughness = readRoughness(entry["roughness"]);
+  }
+  appearance.hasTexture = entry.has("texture") && entry["texture"].truth();
+  return std::make_shared<model::Appearance>(std::move(appearance));
 }
 
 model::MaterialProperty readProperty(const Entry& entry) {
@@ -76,12 +105,14 @@ class Reader {
   Reader(const Entry& topEntry, const model::MaterialLookup& materialLookup) : top(topEntry), lookup(materialLookup) {}
 
   std::unique_ptr<model::Design> read() {
+    readAppearances();
     readMaterials();
     const std::vector<Entry> entries = top.list("components");
     if (entries.empty()) {
       top.fail("has no components", "list them under \"components\", the root first");
     }
     addComponents(entries);
+    design->appearances = std::move(copied);
     for (std::size_t i = 0; i < entries.size(); ++i) {
       readContents(entries[i], *design->components[i]);
     }
@@ -92,10 +123,27 @@ class Reader {
   }
 
  private:
-  void readMaterials() {
+  void readAppearances() {
+    std::vector<std::shared_ptr<model::Appearance>> all;
     for (const Entry& entry : top.list("appearances")) {
-      appearances.push_back(readAppearance(entry));
+      all.push_back(readAppearance(entry));
     }
+    for (const Entry& entry : top.list("designAppearances")) {
+      const auto& appearance = thingAt(entry, all, "appearances");
+      if (isCopied(*appearance)) {
+        entry.fail("\"" + appearance->name + "\" is listed twice", "keep one of the two");
+      }
+      copied.push_back(appearance);
+    }
+    appearances.assign(all.begin(), all.end());
+  }
+
+  /// Whether it is one that was copied into the design, and so is the design's alone.
+  bool isCopied(const model::Appearance& appearance) const {
+    return std::any_of(copied.begin(), copied.end(), [&](const auto& own) { return own.get() == &appearance; });
+  }
+
+  void readMaterials() {
     for (const Entry& entry : top.list("materials")) {
       materials.push_back(readMaterial(entry));
     }
@@ -134,7 +182,7 @@ class Reader {
     material.appearance =
         entry.has("appearance") ? appearanceIn(entry["appearance"]) : model::defaultMaterial()->appearance;
     auto known = lookup ? lookup(material.name) : nullptr;
-    if (known == nullptr || !isSame(*known, material)) {
+    if (known == nullptr || !isSame(*known, material) || isCopied(*material.appearance)) {
       return std::make_shared<const model::Material>(std::move(material));
     }
     // Its appearance becomes that of the library as well, wherever else the file uses it.
@@ -254,6 +302,7 @@ class Reader {
   const model::MaterialLookup& lookup;
   std::unique_ptr<model::Design> design;
   std::vector<std::shared_ptr<const model::Appearance>> appearances;
+  std::vector<std::shared_ptr<model::Appearance>> copied;
   std::vector<std::shared_ptr<const model::Material>> materials;
   /// Of each component, the counters that are taken.
   std::vector<std::set<int>> counters;
@@ -271,7 +320,8 @@ void requireFormat(const Entry& top) {
   if (top.required("version", advice.c_str()).number() != formatVersion) {
     top["version"].fail("is not known here", "this host reads version " + std::to_string(formatVersion));
   }
-  top.requireObject({"format", "version", "name", "appearances", "materials", "components", "looks"});
+  top.requireObject(
+      {"format", "version", "name", "appearances", "designAppearances", "materials", "components", "looks"});
 }
 
 }  // namespace

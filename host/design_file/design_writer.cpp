@@ -32,8 +32,17 @@ class Writer {
       components.push_back(componentJson(*component));
     }
     Json looks = looksJson();
-    return {{"format", formatName},       {"version", formatVersion}, {"name", design.name},
-            {"appearances", appearances}, {"materials", materials},   {"components", std::move(components)},
+    Json copied = Json::array();
+    for (const auto& appearance : design.appearances) {
+      copied.push_back(appearanceRef(appearance));
+    }
+    return {{"format", formatName},
+            {"version", formatVersion},
+            {"name", design.name},
+            {"appearances", appearances},
+            {"designAppearances", std::move(copied)},
+            {"materials", materials},
+            {"components", std::move(components)},
             {"looks", std::move(looks)}};
   }
 
@@ -51,10 +60,26 @@ class Writer {
     }
     const auto [entry, isNew] = appearanceNumbers.emplace(appearance.get(), appearances.size());
     if (isNew) {
-      appearances.push_back(
-          {{"name", appearance->name}, {"id", appearance->id}, {"colour", hexText(appearance->colour)}});
+      appearances.push_back(appearanceJson(*appearance));
     }
     return entry->second;
+  }
+
+  Json appearanceJson(const model::Appearance& appearance) const {
+    const model::Appearance usual;
+    Json json = {{"name", appearance.name}, {"id", appearance.id}, {"colour", hexText(appearance.colour)}};
+    if (appearance.surface != usual.surface) {
+      json["surface"] = surfaceWords.at(static_cast<std::size_t>(appearance.surface));
+    }
+    if (!appearance.roughness) {
+      json["roughness"] = nullptr;
+    } else if (appearance.roughness != usual.roughness) {
+      json["roughness"] = finite(*appearance.roughness, "the appearance \"" + appearance.name + "\"");
+    }
+    if (appearance.hasTexture) {
+      json["texture"] = true;
+    }
+    return json;
   }
 
   Json propertyJson(const model::MaterialProperty& property) const {

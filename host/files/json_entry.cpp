@@ -115,6 +115,13 @@ std::string JsonEntry::optionalText(const char* key) const {
   return has(key) ? (*this)[key].text() : std::string();
 }
 
+bool JsonEntry::truth() const {
+  if (!value.is_boolean()) {
+    fail("should be true or false, is " + kind(), "write true or false, without quotation marks");
+  }
+  return value.get<bool>();
+}
+
 double JsonEntry::number() const {
   if (!value.is_number()) {
     fail("should be a number, is " + kind(), "write a plain number, for instance 7850");

@@ -51,6 +51,7 @@ class JsonEntry {
   /// The member's text, empty when absent.
   std::string optionalText(const char* key) const;
 
+  bool truth() const;
   double number() const;
   /// A whole number from `least` to `most`.
   std::size_t wholeNumber(std::size_t least, std::size_t most) const;

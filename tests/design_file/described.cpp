@@ -31,6 +31,9 @@ class Description {
     for (const auto& component : design.components) {
       describeTree(*component);
     }
+    for (const auto& appearance : design.appearances) {
+      text << "copied " << look(appearance) << "\n";
+    }
     return text.str();
   }
 
@@ -42,7 +45,11 @@ class Description {
     if (appearance == defaultMaterial()->appearance) {
       return "default";
     }
-    return appearance->name + "|" + appearance->id + "|" + hexText(appearance->colour) + numbers.of(appearance.get());
+    std::ostringstream look;
+    look << std::setprecision(17) << appearance->name << "|" << appearance->id << "|" << hexText(appearance->colour)
+         << "|" << static_cast<int>(appearance->surface) << "|" << appearance->roughness.value_or(-1)
+         << (appearance->hasTexture ? "|texture" : "") << numbers.of(appearance.get());
+    return look.str();
   }
 
   std::string material(const std::shared_ptr<const Material>& material) {

@@ -63,6 +63,18 @@ TEST(DesignReader, MaterialsThatAreKnownAreTakenFromThereWithTheirAppearances) {
   EXPECT_EQ(*model::densityOf(*other->root().bodies[0]->material), 8400);
 }
 
+TEST(DesignReader, AppearancesOfTheDesignAreNotReplacedByThoseOfALibrary) {
+  const auto shine = std::make_shared<const model::Appearance>(model::Appearance{"shine", "Shine", {1, 2, 3}});
+  const auto known = model::makeMaterial("Brass", 8500, shine);
+  const auto design = parse(designText(R"("appearances": [{"name": "Shine", "colour": "#010203"}],
+      "designAppearances": [0],
+      "materials": [{"name": "Brass", "appearance": 0, "properties":
+          [{"id": "structural_Density", "name": "Density", "value": 8500, "unit": "kg/m^3"}]}],
+      "components": [{"name": "Pump", "bodies": [{"name": "Lid", "material": 0}]}])"),
+                            "pump", [&](const std::string&) { return known; });
+  EXPECT_EQ(design->root().bodies[0]->material->appearance, design->appearances.at(0));
+}
+
 TEST(DesignReader, TheEndingIsKnownInAnyCase) {
   EXPECT_TRUE(hasEnding("folder/pump.design.json"));
   EXPECT_TRUE(hasEnding("Pump.Design.JSON"));
@@ -135,6 +147,14 @@ const std::vector<Mistake> mistakes = {
     {"NoColour", pump("", R"(, "appearances": [{"name": "Red"}])"), "appearances[0]", "has no \"colour\""},
     {"WrongColour", pump("", R"(, "appearances": [{"name": "Red", "colour": "red"}])"), "appearances[0].colour",
      "write #RRGGBB"},
+    {"WrongSurface", pump("", R"(, "appearances": [{"name": "Red", "colour": "#FF0000", "surface": "red"}])"),
+     "appearances[0].surface", "\"red\" is not a kind of surface"},
+    {"TooRough", pump("", R"(, "appearances": [{"name": "Red", "colour": "#FF0000", "roughness": 1.5}])"),
+     "appearances[0].roughness", "is no roughness"},
+    {"TextureIsNoTruth", pump("", R"(, "appearances": [{"name": "Red", "colour": "#FF0000", "texture": 1}])"),
+     "appearances[0].texture", "should be true or false"},
+    {"CopiedTwice", pump("", R"(, "appearances": [{"name": "Red", "colour": "#FF0000"}], "designAppearances": [0, 0])"),
+     "designAppearances[1]", "\"Red\" is listed twice"},
     {"WrongProperty", pump("", R"(, "materials": [{"name": "M", "properties": [{"id": "x", "value": true}]}])"),
      "materials[0].properties[0].value", "should be a text"},
     {"NoSuchAppearance", pump("", R"(, "appearances": [{"name": "Red", "colour": "#FF0000"}],

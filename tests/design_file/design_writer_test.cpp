@@ -84,6 +84,26 @@ TEST_F(DesignWriter, KeepsLooksOfBodiesFacesAndOccurrences) {
   expectUnchanged();
 }
 
+TEST_F(DesignWriter, KeepsWhatSurfacesAreLike) {
+  const auto chrome = std::make_shared<model::Appearance>(
+      model::Appearance{"chrome", "Chrome", {200, 200, 210}, model::Surface::Metal, 1.0 / 7.0, false});
+  const auto glass = std::make_shared<model::Appearance>(
+      model::Appearance{"glass", "Glass", {0, 0, 0, 40}, model::Surface::Transparent, std::nullopt, true});
+  base().appearance = chrome;
+  base().faces[0]->appearance = glass;
+  expectUnchanged();
+}
+
+TEST_F(DesignWriter, KeepsAppearancesThatWereCopiedIntoTheDesign) {
+  const auto used = std::make_shared<model::Appearance>(model::Appearance{"used", "Used", {1, 2, 3}});
+  const auto unused = std::make_shared<model::Appearance>(model::Appearance{"unused", "Unused", {4, 5, 6}});
+  base().appearance = used;
+  design->appearances = {unused, used};
+  expectUnchanged();
+  const auto result = afterRoundTrip();
+  EXPECT_EQ(tests::bodyNamed(*result, "Machine", "Base").appearance, result->appearances.at(1));
+}
+
 TEST_F(DesignWriter, KeepsLooksInTheOwnTreesOfComponents) {
   tests::componentNamed(*design, "Frame").occurrences()[1]->appearance = appearance("Blue", "#0000FF");
   expectUnchanged();
