@@ -185,7 +185,7 @@ void addAssignmentOptions(CLI::App& command, ApplyOptions& options) {
 
 void addPictureOptions(CLI::App& command, ApplyOptions& options) {
   const auto add = [&](const char* option, std::filesystem::path& file, const char* description) {
-    command.add_option(option, file, description)->type_name("OUT.svg")->group("Pictures");
+    addPathOption(command, option, file, description)->type_name("OUT.svg")->group("Pictures");
   };
   add("--picture", options.picture,
       "Where to save a picture of the dialog after Apply, with the same objects picked again");

@@ -104,14 +104,16 @@ void addStateOptions(CLI::App& command, DialogOptions& options) {
 }
 
 void addPictureOptions(CLI::App& command, DialogOptions& options) {
-  const auto add = [&](const char* option, auto& value, const char* description, const char* type) {
-    return command.add_option(option, value, description)->type_name(type)->group(pictureGroup);
+  const auto add = [&](const char* option, std::filesystem::path& file, const char* description) {
+    return addPathOption(command, option, file, description)->type_name("OUT.svg")->group(pictureGroup);
   };
-  auto* picture = add("--picture", options.picture, "Where to save a picture of the dialog", "OUT.svg");
-  add("--open-list", options.openWord, "The list that it shows open: appearance or material", "LIST")
+  auto* picture = add("--picture", options.picture, "Where to save a picture of the dialog");
+  command.add_option("--open-list", options.openWord, "The list that it shows open: appearance or material")
       ->check(CLI::IsMember({"appearance", "material"}))
-      ->needs(picture);
-  add("--toolbar-picture", options.toolbarPicture, "Where to save a picture of the toolbar", "OUT.svg");
+      ->needs(picture)
+      ->type_name("LIST")
+      ->group(pictureGroup);
+  add("--toolbar-picture", options.toolbarPicture, "Where to save a picture of the toolbar");
 }
 
 }  // namespace

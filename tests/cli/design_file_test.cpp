@@ -113,6 +113,15 @@ TEST_F(DesignFileProgram, PlaysTheDemo) {
   EXPECT_THAT(succeed({"tree", at("demo.design.json")}), HasSubstr("RAL 5015 Sky blue"));
 }
 
+TEST_F(DesignFileProgram, DrawsPicturesIntoFilesOfAnyAlphabet) {
+  succeed({"dialog", machineFile, "--picture", at("Dialog ä 泵.svg"), "--toolbar-picture", at("Leiste ä 泵.svg")});
+  succeed({"apply", machineFile, "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save",
+           at("out.design.json"), "--picture", at("Danach ä 泵.svg")});
+  for (const char* picture : {"Dialog ä 泵.svg", "Leiste ä 泵.svg", "Danach ä 泵.svg"}) {
+    EXPECT_THAT(content(picture), ::testing::StartsWith("<svg")) << picture;
+  }
+}
+
 TEST_F(DesignFileProgram, SaysHowToComeByADesignFile) {
   fill("pump.step", "ISO-10303-21;");
   EXPECT_THAT(fail(1, {"tree", at("pump.step")}),
