@@ -158,7 +158,6 @@ TEST_F(Libraries, AreLoadedAnewForEveryDialogAndListedOnce) {
 }
 
 TEST_F(Libraries, AreFoundByTheNextDialogWhenTheyAreAddedMeanwhile) {
-  hasJournal = false;
   build();
   session().pressCancel();
   addMaterialLibrary("Stones.adsklib", "Stones", {{"Basalt"}});

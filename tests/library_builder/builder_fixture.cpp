@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "tests/support/journal.h"
+
 namespace tests {
 
 void PrintTo(const RalRow& row, std::ostream* stream) {
@@ -33,11 +35,22 @@ std::filesystem::path libraryBuilderModule() {
 
 LibraryBuilderTest::~LibraryBuilderTest() {
   EXPECT_THAT(takeErrors(), testing::IsEmpty());
+  finish();
 }
 
 void LibraryBuilderTest::start(headless::Profile profile) {
-  session_ = nullptr;
+  finish();
   session_ = std::make_unique<headless::Session>(std::move(profile));
+  if (keepsJournals()) {
+    host().gate().startJournal();
+  }
+}
+
+void LibraryBuilderTest::finish() {
+  if (session_ != nullptr && keepsJournals()) {
+    keepJournal(host().gate().journalText(), {});
+  }
+  session_ = nullptr;
 }
 
 bool LibraryBuilderTest::build() {

@@ -55,6 +55,8 @@ class LibraryBuilderTest : public ::testing::Test {
   std::vector<std::string> takeErrors();
 
  private:
+  void finish();
+
   std::unique_ptr<headless::Session> session_;
 };
 

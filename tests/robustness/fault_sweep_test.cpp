@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
+#include <sstream>
 
 #include "tests/robustness/scenario.h"
 #include "tests/support/addin_fixture.h"
@@ -34,22 +36,40 @@ class FaultSweep : public AddInTest {
     profile = used;
     folder.remove(settingsFile());
     faultless = play();
+    settingsTried.clear();
+  }
+
+  ~FaultSweep() override {
+    if (!journal.empty()) {
+      keepJournal(journal, {});
+    }
   }
 
   Outcome play(const std::function<void(Host&)>& prepare = [](Host& /*host*/) {}) const {
     return playScenario(folder.module(), profile, prepare);
   }
 
-  void sweep(const Fault& fault) const {
+  void sweep(const Fault& fault) {
     SCOPED_TRACE(fault.call + " number " + std::to_string(fault.nth));
     folder.remove(settingsFile());
-    const Outcome failed = play([&](Host& host) { host.gate().setFault(fault); });
+    const Outcome failed = play([&](Host& host) {
+      host.gate().setFault(fault);
+      if (keepsJournals()) {
+        host.gate().startJournal();
+      }
+    });
+    if (keepsJournals()) {
+      addToJournal(fault, failed.journal);
+    }
     EXPECT_TRUE(failed.faultStruck);
     EXPECT_THAT(failed.findings, testing::IsEmpty());
     expectHarmless(failed.errors, fault);
     // A dialog that the host broke off in the making leaves the handles to the inputs of the one before.
     EXPECT_THAT(failed.misuses, testing::Each(testing::HasSubstr("CommandInput.")));
-    expectSameAsFaultless(play());
+    // All that a sitting hands to the next one is the settings file: each one that comes of a fault is tried once.
+    if (settingsTried.insert(folder.has(settingsFile()) ? folder.read(settingsFile()) : "none").second) {
+      expectSameAsFaultless(play());
+    }
   }
 
   /// What comes out is what a missing object, a missing name or the failed call itself raises.
@@ -78,6 +98,20 @@ class FaultSweep : public AddInTest {
 
   headless::Profile profile = headless::documentedProfile();
   Outcome faultless;
+
+ private:
+  // The sittings of a sweep in full would be hundreds of megabytes.
+  void addToJournal(const Fault& fault, const std::string& sitting) {
+    std::ostringstream line;
+    line << profile.name << ", " << fault.call << " number " << fault.nth
+         << (fault.answer == FaultAnswer::Nothing ? " answers nothing: " : " raises: ")
+         << std::count(sitting.begin(), sitting.end(), '\n') << " calls and events, digest " << std::hex
+         << digestOfJournal(sitting, folder.path()) << "\n";
+    journal += line.str();
+  }
+
+  std::string journal;
+  std::set<std::string> settingsTried;
 };
 
 TEST_F(FaultSweep, SittingWithoutFaultsUsesEverything) {

@@ -83,7 +83,6 @@ TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
 }
 
 TEST_F(ModulePath, IsCutAt260Characters) {
-  hasJournal = false;
   const std::string longName(120, 'x');
   try {
     folder.moveModuleTo(longName + "/" + longName);

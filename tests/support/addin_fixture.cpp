@@ -22,10 +22,20 @@ AddInTest::~AddInTest() {
   }
 }
 
+bool AddInTest::keepsOwnJournal() const {
+  return hasJournal && keepsJournals();
+}
+
+void AddInTest::listAsElsewhere() const {
+  if (session_ != nullptr && keepsOwnJournal()) {
+    folder.listLibrariesByName();
+  }
+}
+
 void AddInTest::load(Profile profile) {
   session_ = std::make_unique<Session>(std::move(profile));
-  if (hasJournal && keepsJournals()) {
-    folder.listLibrariesByName();
+  if (keepsOwnJournal()) {
+    listAsElsewhere();
     host().gate().startJournal();
   }
   session_->loadAddIn(folder.module());
@@ -47,7 +57,7 @@ void AddInTest::finish() {
     session_->stopAddIn();
     session_->unloadAddIn();
   }
-  if (hasJournal && keepsJournals()) {
+  if (keepsOwnJournal()) {
     keepJournal(host().gate().journalText(), folder.path());
   }
   expectNoErrors();
@@ -120,11 +130,13 @@ void AddInTest::removeLibraries(const std::string& kind) {
 void AddInTest::addAppearanceLibrary(const std::string& fileName, const std::string& libraryName,
                                      const std::vector<std::string>& appearances) {
   folder.write(appearancesFolder / fileName, appearanceLibrary(libraryName, appearances));
+  listAsElsewhere();
 }
 
 void AddInTest::addMaterialLibrary(const std::string& fileName, const std::string& libraryName,
                                    const std::vector<TestMaterial>& materials) {
   folder.write(materialsFolder / fileName, materialLibrary(libraryName, materials));
+  listAsElsewhere();
 }
 
 }  // namespace tests

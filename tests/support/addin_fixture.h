@@ -86,10 +86,13 @@ class AddInTest : public ::testing::Test {
                           const std::vector<TestMaterial>& materials);
 
   AddInFolder folder;
-  /// Whether the calls are kept where journals are. Names of places in a very deep design are too long to write down.
+  /// Whether the calls are kept where journals are. Of a very deep design they are too long to write down.
   bool hasJournal = true;
 
  private:
+  bool keepsOwnJournal() const;
+  /// From the start of a journal on, libraries are to be found in the same order on every system.
+  void listAsElsewhere() const;
   static std::string nameOf(const std::shared_ptr<const headless::model::Appearance>& appearance) {
     return appearance ? appearance->name : std::string();
   }

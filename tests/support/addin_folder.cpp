@@ -80,8 +80,9 @@ void putBackInOrder(const fs::path& folder, const Names& names) {
 }  // namespace
 
 // File systems in memory list what came last first, or the other way round; most others go by other rules.
+// Windows does list by name.
 void AddInFolder::listByName(const fs::path& relative) const {
-  if (!fs::is_directory(folder / relative)) {
+  if (fs::path::preferred_separator == '\\' || !fs::is_directory(folder / relative)) {
     return;
   }
   Names names = listing(relative);

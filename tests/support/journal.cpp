@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 namespace tests {
 
@@ -21,6 +22,14 @@ void replaceAll(std::string& text, const std::string& part, const std::string& r
   for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + replacement.size())) {
     text.replace(at, part.size(), replacement);
   }
+}
+
+std::string comparable(std::string journal, const fs::path& addInFolder) {
+  std::replace(journal.begin(), journal.end(), '\\', '/');
+  if (!addInFolder.empty()) {
+    replaceAll(journal, addInFolder.generic_u8string(), "<add-in>");
+  }
+  return journal;
 }
 
 /// A name that no journal has yet: a test may open several sessions.
@@ -43,14 +52,21 @@ bool keepsJournals() {
 }
 
 void keepJournal(std::string journal, const fs::path& addInFolder) {
-  std::replace(journal.begin(), journal.end(), '\\', '/');
-  replaceAll(journal, addInFolder.generic_u8string(), "<add-in>");
   const fs::path file = nextJournal();
   std::ofstream stream(file, std::ios::binary);
-  stream << journal;
+  stream << comparable(std::move(journal), addInFolder);
   if (!stream.flush()) {
     throw std::runtime_error("cannot write " + file.u8string());
   }
+}
+
+// FNV-1a, as what the standard library offers need not be the same everywhere.
+std::uint64_t digestOfJournal(std::string journal, const fs::path& addInFolder) {
+  std::uint64_t digest = 0xcbf29ce484222325U;
+  for (const char byte : comparable(std::move(journal), addInFolder)) {
+    digest = (digest ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
+  }
+  return digest;
 }
 
 }  // namespace tests

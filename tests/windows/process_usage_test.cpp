@@ -56,6 +56,7 @@ class WindowsProcess : public AddInTest {
 
 TEST_F(WindowsProcess, IsLeftAsItWasByAHundredLoads) {
   constexpr int times = 100;
+  // It would take memory.
   hasJournal = false;
   load();
   session().unloadAddIn();
