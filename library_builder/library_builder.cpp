@@ -23,9 +23,17 @@ namespace core = adsk::core;
 using core::Ptr;
 
 void count(Outcome outcome, Tally& tally) {
-  tally.wereThere += outcome == Outcome::wasThere ? 1 : 0;
-  tally.made += outcome == Outcome::wasThere ? 0 : 1;
-  tally.withOtherGloss += outcome == Outcome::madeWithOtherGloss ? 1 : 0;
+  switch (outcome) {
+    case Outcome::wasThere:
+      ++tally.wereThere;
+      break;
+    case Outcome::madeWithOtherGloss:
+      ++tally.withOtherGloss;
+      [[fallthrough]];
+    case Outcome::made:
+      ++tally.made;
+      break;
+  }
 }
 
 /// Makes them one by one; false when the user cancelled before the last one. Raises Failure.
@@ -48,15 +56,16 @@ bool makeAll(const TargetDesign& target, const Ptr<core::Appearance>& source, Pr
   return true;
 }
 
-/// True when all are there or the user cancelled. `tally` says what was done also when something is raised.
-bool build(const Ptr<core::Application>& app, const Ptr<core::UserInterface>& ui, Tally& tally) {
+/// Makes what is missing, until it is there or the user cancels. `tally` says what was done also when something is
+/// raised.
+void build(const Ptr<core::Application>& app, const Ptr<core::UserInterface>& ui, Tally& tally) {
   const Ptr<core::Appearance> source = findSourceAppearance(app);
   bool isComplete = false;
   {
     Progress progress(ui);
     const std::optional<TargetDesign> target = chooseDesign(app, ui);
     if (!target) {
-      return true;
+      return;
     }
     isComplete = makeAll(*target, source, progress, tally);
   }
@@ -65,7 +74,6 @@ bool build(const Ptr<core::Application>& app, const Ptr<core::UserInterface>& ui
   } else {
     tellCancellation(ui, tally);
   }
-  return true;
 }
 
 }  // namespace
@@ -83,7 +91,8 @@ extern "C" XI_EXPORT bool run(const char* /*context*/) {
   }
   Tally tally;
   try {
-    return build(app, ui, tally);
+    build(app, ui, tally);
+    return true;
   } catch (const Failure& failure) {
     tellFailure(ui, failure, tally);
   } catch (const std::exception& error) {

@@ -27,16 +27,24 @@ std::string countsOf(const Tally& tally) {
   return text;
 }
 
-std::string waysToTheLibrary() {
-  const std::string name = libraryName;
-  return "To offer them in Tintora:\n"
-         "1. In the material browser, make a new user library named " +
-         name + ". Its file belongs into the folder of the Tintora add-in, as " + libraryFile +
-         " (that folder is usually %APPDATA%\\Autodesk\\Autodesk Fusion 360\\API\\AddIns\\Tintora).\n"
-         "2. Add the RAL appearances of this design to that library, by way of the favourites where the browser wants "
-         "it so.\n"
-         "3. Open the Tintora dialog: it lists " +
-         name + " among the appearance libraries.\n\nThe design is not needed after that.";
+// The way to the library, in the words of the user guide, which tells more about each step.
+constexpr const char* stepOpen =
+    "Press A to open the Appearance dialog. The upper half shows the appearances that are in the design.";
+constexpr const char* stepMake = "Make a new user library in that dialog and name it exactly RAL_COLORS, in capitals.";
+constexpr const char* stepFill = "Put all RAL appearances into it.";
+constexpr const char* stepCopy =
+    "The library is a file RAL_COLORS.adsklib. Copy it into the add-in's folder resources\\Libs\\Appearances.";
+constexpr const char* stepClose = "Close the design that the script made, without saving.";
+
+std::string wayToTheLibrary() {
+  std::string text = "To offer them in Tintora:";
+  int number = 0;
+  for (const char* step : {stepOpen, stepMake, stepFill, stepCopy, stepClose}) {
+    text += "\n" + std::to_string(++number) + ". " + step;
+  }
+  return text +
+         "\n\nThe add-in's folder is usually %APPDATA%\\Autodesk\\Autodesk Fusion 360\\API\\AddIns\\Tintora. The user "
+         "guide says more.";
 }
 
 }  // namespace
@@ -51,7 +59,7 @@ core::DialogResults askWhetherToGoOn(const Ptr<core::UserInterface>& ui, const s
 }
 
 void tellCompletion(const Ptr<core::UserInterface>& ui, const Tally& tally) {
-  ui->messageBox(countsOf(tally) + "\n\n" + waysToTheLibrary(), messageTitle, core::OKButtonType,
+  ui->messageBox(countsOf(tally) + "\n\n" + wayToTheLibrary(), messageTitle, core::OKButtonType,
                  core::InformationIconType);
 }
 

@@ -13,10 +13,6 @@ namespace library_builder {
 /// Title of every message and of the progress dialog.
 inline constexpr const char* messageTitle = "Tintora library builder";
 
-/// The library that Tintora looks for and has icons for, and its file below the add-in's folder.
-inline constexpr const char* libraryName = "RAL_COLORS";
-inline constexpr const char* libraryFile = "resources\\Libs\\Appearances\\RAL_COLORS.adsklib";
-
 /// How many appearances were made, and how many of them with another gloss, and how many were there before.
 struct Tally {
   std::size_t made = 0;

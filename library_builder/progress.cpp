@@ -10,8 +10,10 @@ namespace library_builder {
 namespace {
 
 [[noreturn]] void failToShow() {
-  throw Failure("The progress dialog cannot be shown.",
-                "Nothing was made. Close dialogs that are open and run the library builder again.");
+  throw Failure(
+      "The progress dialog cannot be shown.",
+      "No appearance was made. Close dialogs that are open and run the library builder again; an empty design "
+      "that it has opened is not needed.");
 }
 
 }  // namespace

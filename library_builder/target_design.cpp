@@ -15,6 +15,9 @@ using core::Ptr;
 
 namespace {
 
+// The library that Tintora looks for is named so.
+constexpr const char* proposedName = "RAL_COLORS";
+
 /// The design that is worked on; nothing when none is, or when it does not give its appearances.
 std::optional<TargetDesign> openDesign(const Ptr<core::Application>& app) {
   const Ptr<fusion::Design> design = app->activeProduct();
@@ -45,7 +48,7 @@ TargetDesign newDesign(const Ptr<core::Application>& app) {
     throw Failure("The new design does not give access to its appearances.", advice);
   }
   // Only what the save dialog proposes, so that nothing is lost when it is refused.
-  document->name(libraryName);
+  document->name(proposedName);
   return {design, appearances};
 }
 

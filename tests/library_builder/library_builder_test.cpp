@@ -76,14 +76,16 @@ TEST_F(LibraryBuilder, SaysHowTheAppearancesBecomeALibrary) {
   EXPECT_EQ(box.icon, adsk::core::InformationIconType);
   EXPECT_EQ(box.buttons, adsk::core::OKButtonType);
   EXPECT_THAT(box.text, AllOf(HasSubstr("216 of 216"), HasSubstr("216 made now, 0 there before"),
-                              HasSubstr("new user library named RAL_COLORS"), Not(HasSubstr("gloss"))));
+                              HasSubstr("new user library in that dialog and name it exactly RAL_COLORS"),
+                              Not(HasSubstr("gloss"))));
 }
 
 TEST_F(LibraryBuilder, NamesThePlaceWhereTheAddInLooks) {
   EXPECT_TRUE(build());
   std::string folder = tintora::libraryFolder(tintora::appearanceLibraries);
   std::replace(folder.begin(), folder.end(), '/', '\\');
-  EXPECT_THAT(lastMessage().text, HasSubstr(" as " + folder + "\\RAL_COLORS.adsklib"));
+  EXPECT_THAT(lastMessage().text,
+              AllOf(HasSubstr("a file RAL_COLORS.adsklib"), HasSubstr("the add-in's folder " + folder + ".")));
 }
 
 TEST_F(LibraryBuilder, KeepsWhatExistsWhenItIsCancelled) {
