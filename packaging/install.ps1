@@ -57,6 +57,18 @@ function Copy-Package([string]$source, [string]$target) {
     Get-Files $target | ForEach-Object { Unblock-File -LiteralPath $_.FullName }
 }
 
+# Replaces what is installed, once all of the new package has come to this disk: if it does not, nothing was touched.
+function Update-Package([string]$source, [string]$target) {
+    $fresh = "$target.new"
+    if (Test-Path -LiteralPath $fresh) {
+        Remove-Item -LiteralPath $fresh -Recurse -Force
+    }
+    Copy-Package $source $fresh
+    Remove-Package $target
+    Copy-Package $fresh $target
+    Remove-Item -LiteralPath $fresh -Recurse -Force
+}
+
 function Install-Tintora {
     $source = Join-Path $PSScriptRoot 'Tintora'
     $builderSource = Join-Path $PSScriptRoot 'TintoraLibraryBuilder'
@@ -70,10 +82,8 @@ function Install-Tintora {
     if ((Test-SameFolder $source $addIn) -or (Test-SameFolder $builderSource $builder)) {
         Stop-WithMessage "The zip file was unpacked where Tintora is to be installed. Unpack it elsewhere and run this script there."
     }
-    Remove-Package $addIn
-    Remove-Package $builder
-    Copy-Package $source $addIn
-    Copy-Package $builderSource $builder
+    Update-Package $source $addIn
+    Update-Package $builderSource $builder
     # Some programs leave out empty folders when they unpack, and Tintora needs this one.
     New-Item -ItemType Directory -Path (Join-Path $addIn 'resources\Libs\Materials') -Force | Out-Null
     Write-Host "Tintora is installed in $addIn."

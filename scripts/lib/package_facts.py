@@ -7,13 +7,15 @@ import subprocess
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 # The library that a module built against the headless host imports, and one built for the CAD program does not.
 HEADLESS_HOST = "TintoraHost.dll"
+AUTHOR = "The Tintora developers"
 
 
 def project():
-    """The values that templates name, from the one place that has them."""
+    """The values that templates name, from the places that have them."""
     text = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
     found = re.search(r'^project\((\w+)\n  VERSION ([\d.]+)\n  DESCRIPTION "([^"]+)"$', text, re.MULTILINE)
-    return dict(zip(("PROJECT_NAME", "PROJECT_VERSION", "PROJECT_DESCRIPTION"), found.groups()))
+    names = ("PROJECT_NAME", "PROJECT_VERSION", "PROJECT_DESCRIPTION", "AUTHOR")
+    return dict(zip(names, (*found.groups(), AUTHOR)))
 
 
 class Module:
