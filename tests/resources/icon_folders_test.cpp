@@ -14,8 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Pictures are built where the add-in is packed, which is not on Windows.
-/// The add-in in the folder that users get, pictures included, with the headless colour library in it.
+/// The add-in in the folder that users get, pictures included, with the headless colour library in it. Pictures are
+/// built where the add-in is packed, which is not on Windows.
 class PosixIconFolders : public AddInTest {
  protected:
   void SetUp() override {
