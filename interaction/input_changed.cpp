@@ -144,9 +144,9 @@ void onApplyPressed(const Ptr<core::InputChangedEventArgs>& eventArgs) {
   commit(eventArgs);
 }
 
-/// An echo of the add-in's own change. The selection input may be missing still, while the dialog is being built.
+/// An echo of the add-in's own change.
 bool isEcho(const std::string& changedId) {
-  return EchoGuard::active() && (!selectionInput || selectionInput->id() != changedId);
+  return EchoGuard::takesSelection() || (EchoGuard::takesInputs() && selectionInput->id() != changedId);
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ Profile hostileProfile() {
   Profile profile;
   profile.name = "hostile";
   profile.echo = Echo::AtOnce;
+  profile.echoWhileBuilding = true;
   profile.clearSelectionReported = true;
   profile.executeClearsSelection = true;
   profile.clickRaisesTwoEvents = true;

@@ -36,6 +36,9 @@ struct Profile {
   LibraryPathText libraryPathText = LibraryPathText::Utf8;
   DeletedPanelControls deletedPanelControls = DeletedPanelControls::EmptyCollection;
   Echo echo = Echo::None;
+  /// Echoes at once begin with the dialog's construction, not only when it is shown; so does the report of a cleared
+  /// selection.
+  bool echoWhileBuilding = false;
   /// Clearing a selection by program is reported as a change of the selection input.
   bool clearSelectionReported = false;
   /// Executing without ending clears the selection and reports it.

@@ -250,8 +250,12 @@ void CommandRunner::fireTerminated(DefinitionObject& definition, CommandTerminat
       definition.texts().id);
 }
 
+bool CommandRunner::mayEcho(const CommandObject& command) const {
+  return command.isShown || (profile.echo == Echo::AtOnce && profile.echoWhileBuilding);
+}
+
 void CommandRunner::changedByProgram(CommandObject& command, InputCore& input) {
-  if (!command.isShown || !isRunning(command) || profile.echo == Echo::None) {
+  if (!isRunning(command) || profile.echo == Echo::None || !mayEcho(command)) {
     return;
   }
   if (profile.echo == Echo::AtOnce) {
@@ -266,7 +270,11 @@ void CommandRunner::changedByProgram(CommandObject& command, InputCore& input) {
 }
 
 void CommandRunner::selectionCleared(CommandObject& command, InputCore& input) {
-  if (!command.isShown || !isRunning(command) || !profile.clearSelectionReported) {
+  if (!isRunning(command) || !profile.clearSelectionReported || !mayEcho(command)) {
+    return;
+  }
+  if (!command.isShown) {
+    fireInputChanged(command, input);
     return;
   }
   later([this, kept = Ptr<CommandObject>(&command, false), changed = &input] {

@@ -75,6 +75,8 @@ class CommandRunner final : public CommandListener {
   void preEmpt();
   void show(CommandObject& command);
   Execution execute(CommandObject& command);
+  // Whether changes by program are reported at this stage of the command.
+  bool mayEcho(const CommandObject& command) const;
   void fireInputChanged(CommandObject& command, InputCore& input);
   void fireCommandEvent(CommandEventObject& event, CommandObject& command,
                         adsk::core::CommandTerminationReason reason = adsk::core::UnknownTerminationReason);

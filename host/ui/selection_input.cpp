@@ -109,7 +109,9 @@ bool SelectionInput::addSelection(const Ptr<Base>& selection) {
 
 bool SelectionInput::clearSelection() {
   return call("clearSelection", [this] {
-    if (dropAll()) {
+    // Before the dialog is shown nothing can be selected, and a host that reports then reports that.
+    const bool isBeingBuilt = !owner.canSelectByProgram();
+    if (dropAll() || isBeingBuilt) {
       owner.selectionClearedByProgram(*this);
     }
     return true;

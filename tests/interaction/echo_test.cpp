@@ -169,11 +169,41 @@ TEST_F(EchoAtOnce, IsTakenForTheUserAgainAfterAReactionThatFailed) {
   EXPECT_EQ(itemsOf("idMaterialList"), Lines{"Steel 37"});
 }
 
-TEST_F(EchoAtOnce, OfTheDialogsConstructionIsIgnored) {
-  startDialog(withEchoAtOnce());
+/// A host that reports what the add-in does to its inputs while they are being made, and that the selection is empty.
+class EchoOfConstruction : public EchoAtOnce {
+ protected:
+  static Profile profile() {
+    Profile profile = withEchoAtOnce();
+    profile.echoWhileBuilding = true;
+    profile.clearSelectionReported = true;
+    return profile;
+  }
+  Lines echoesOf(const std::function<void()>& action) {
+    return containing("event inputChanged(", traceOf(session(), action));
+  }
+};
+
+TEST_F(EchoOfConstruction, IsIgnored) {
+  start(profile());
+  const Lines echoes = echoesOf([&] { openDialog(); });
+  EXPECT_THAT(echoes, ::testing::Contains(::testing::HasSubstr("(idSelection)")));
+  EXPECT_THAT(echoes, ::testing::Contains(::testing::HasSubstr("(idGroupMaterial)")));
   EXPECT_EQ(shown("idActAppearance"), "");
   EXPECT_FALSE(isEnabled("idBtnApply"));
   EXPECT_TRUE(session().input("idGroupAppearance").isTicked);
+}
+
+TEST_F(EchoOfConstruction, LeavesASecondDialogAsItWasSaved) {
+  start(profile());
+  openDialog();
+  session().choose("idAppearanceList", "RAL 3000 Flame red");
+  session().choose("idFilterSelect", "Face");
+  session().pick("Base/Face1");
+  session().click("idBtnApply");
+  session().pressCancel();
+  EXPECT_FALSE(echoesOf([&] { openDialog(); }).empty());
+  EXPECT_EQ(shown("idAppearanceList"), "RAL 3000 Flame red");
+  EXPECT_EQ(shown("idFilterSelect"), "Face");
 }
 
 }  // namespace
