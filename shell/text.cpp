@@ -59,15 +59,18 @@ std::wstring toWide(const std::string& ansiText) {
 
 std::string toAnsi(const std::wstring& text) {
   const int units = static_cast<int>(text.size());
+  // Without the flag the system would take letters that look alike for some of the characters that are to be replaced.
+  DWORD flags = WC_NO_BEST_FIT_CHARS;
   const char* replacement = " ";
-  int bytes = WideCharToMultiByte(CP_ACP, 0, text.data(), units, nullptr, 0, replacement, nullptr);
+  int bytes = WideCharToMultiByte(CP_ACP, flags, text.data(), units, nullptr, 0, replacement, nullptr);
   if (bytes == 0) {
-    // An ANSI code page that is UTF-8 shows every character and refuses a replacement.
+    // An ANSI code page that is UTF-8 shows every character and refuses flag and replacement.
+    flags = 0;
     replacement = nullptr;
-    bytes = WideCharToMultiByte(CP_ACP, 0, text.data(), units, nullptr, 0, replacement, nullptr);
+    bytes = WideCharToMultiByte(CP_ACP, flags, text.data(), units, nullptr, 0, replacement, nullptr);
   }
   std::string ansi(static_cast<std::size_t>(bytes), '\0');
-  WideCharToMultiByte(CP_ACP, 0, text.data(), units, ansi.data(), bytes, replacement, nullptr);
+  WideCharToMultiByte(CP_ACP, flags, text.data(), units, ansi.data(), bytes, replacement, nullptr);
   return ansi;
 }
 

@@ -25,6 +25,7 @@ using HCURSOR = struct HICON__*;
 #define FALSE 0
 #define MAX_PATH 260
 #define CP_ACP 0
+#define WC_NO_BEST_FIT_CHARS 0x00000400
 #define DLL_PROCESS_ATTACH 1
 #define DLL_PROCESS_DETACH 0
 #define SW_SHOWNORMAL 1
@@ -39,7 +40,8 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved);
 /// Full path of a loaded module, cut to the buffer (with its NUL) when that is too small; gives the characters written.
 DWORD GetModuleFileNameW(HMODULE module, LPWSTR name, DWORD size);
 
-/// The "ANSI" code page is UTF-8 here. With `size` 0 gives the size needed; -1 as length means up to the NUL, included.
+/// The "ANSI" code page is UTF-8 here, in which every character is itself, whatever the flags. With `size` 0 gives the
+/// size needed; -1 as length means up to the NUL, included.
 int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideLength, LPSTR narrow, int size,
                         LPCSTR defaultChar, LPBOOL usedDefaultChar);
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR narrow, int narrowLength, LPWSTR wide, int size);

@@ -69,6 +69,15 @@ TEST_F(WindowsModulePath, WithCharactersThatTheCodePageCannotShowHasBlanksInThei
   EXPECT_FALSE(hasSettings());
 }
 
+// An L with a stroke would otherwise become a plain one, and a slash of mathematics one of paths.
+TEST_F(WindowsModulePath, CharactersThatLookLikeOthersBecomeBlanks) {
+  moveTo("x\xC5\x81\xE2\x88\x95y");
+  folder.write("x  y/Tintora_UsersGuide.pdf", "%PDF");
+  start();
+  session().press("idOpenHelp");
+  EXPECT_THAT(openedFiles(), ElementsAre((folder.path() / "x  y/Tintora_UsersGuide.pdf").make_preferred().u8string()));
+}
+
 TEST_F(WindowsModulePath, BlanksInPlaceOfCharactersMayLeadToAnotherFolder) {
   moveTo("x\xD0\x96y");
   folder.write("x y/Tintora_UsersGuide.pdf", "%PDF");
