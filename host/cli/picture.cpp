@@ -23,7 +23,7 @@ constexpr int oversampling = 3;
 constexpr double marginPart = 0.04;
 constexpr double lineDarkness = 0.35;
 constexpr double ambientLight = 0.55;
-constexpr std::uint8_t background = 255;
+constexpr std::uint8_t paperWhite = 255;
 
 double dot(const Point& a, const Point& b) {
   return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
@@ -83,7 +83,7 @@ Fit fitOf(const std::vector<Triangle>& triangles, int width, int height) {
 struct Sample {
   double depth = -std::numeric_limits<double>::max();
   std::uint32_t face = 0;
-  std::array<double, 3> colour{background, background, background};
+  std::array<double, 3> colour{paperWhite, paperWhite, paperWhite};
 };
 
 /// The samples of a picture.

@@ -7,6 +7,9 @@ else
 fi
 
 started=$SECONDS
+# The name of what runs side by side with others, empty when nothing does, and how many cores it may keep busy.
+lane=
+jobs=$(nproc)
 
 # A heading, with the time since the start.
 step() { printf '\n%s[%3d s] %s%s\n' "$bold" "$((SECONDS - started))" "$*" "$plain"; }
@@ -28,7 +31,7 @@ guide_packages=(weasyprint python3-markdown fonts-open-sans poppler-utils)
 # What the checks with the second compiler take besides.
 check_packages=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 cppcheck)
 # What building for Windows and running that takes besides.
-windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
+windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64 lld-14)
 
 is_installed() { [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]; }
 
@@ -82,32 +85,50 @@ launcher_options() {
 }
 
 # show_progress PROCESS LOG PATTERN: while the process runs, shows how far its log says it is; on a terminal in place,
-# elsewhere a line every half minute.
+# elsewhere, and where several lanes share the terminal, a line every half minute.
 show_progress() {
-  local shown=$SECONDS at
+  local shown=$SECONDS in_place=false at
+  [ ! -t 1 ] || [ -n "$lane" ] || in_place=true
   while kill -0 "$1" 2>/dev/null; do
     at=$(grep -oE "$3" "$2" 2>/dev/null | tail -n 1 || true)
-    if [ -t 1 ]; then
+    if $in_place; then
       printf '\r  %s ' "$at"
     elif [ $((SECONDS - shown)) -ge 30 ]; then
-      say "  [$((SECONDS - started)) s] $at"
+      printf '  [%3d s] %s%s\n' "$((SECONDS - started))" "${lane:+$lane: }" "$at"
       shown=$SECONDS
     fi
     sleep 0.5
   done
-  [ ! -t 1 ] || printf '\r%40s\r' ''
+  ! $in_place || printf '\r%40s\r' ''
+}
+
+# in_lanes FUNCTIONS...: runs them side by side, each in a shell of its own in which `lane` is its name, with its part of
+# the cores. The first one that fails takes the others with it.
+in_lanes() {
+  local name
+  # Each lane is a group of processes, so that it can be stopped with all that it started.
+  set -m
+  for name in "$@"; do
+    { lane=$name jobs=$(((jobs + $# - 1) / $#)); set -e; "$name"; } &
+  done
+  trap 'for group in $(jobs -p); do kill -- "-$group" 2>/dev/null || true; done' EXIT
+  for name in "$@"; do
+    wait -n || exit 1
+  done
+  trap - EXIT
+  set +m
 }
 
 # configure_tree FOLDER CMAKE_OPTIONS...
 configure_tree() {
-  cmake -G Ninja -S . -B "$1" $(launcher_options) "${@:2}" >"$log_folder/configure.log" 2>&1 ||
-    { cat "$log_folder/configure.log" >&2; fail "Configuring $1 failed"; }
+  local log="$log_folder/configure-${1##*/}.log"
+  cmake -G Ninja -S . -B "$1" $(launcher_options) "${@:2}" >"$log" 2>&1 || { cat "$log" >&2; fail "Configuring $1 failed"; }
 }
 
 # build_tree FOLDER TARGETS... -- CMAKE_OPTIONS...
 # Configures and builds; shows the progress, and the whole log of what failed.
 build_tree() {
-  local folder=$1 targets=()
+  local folder=$1 log="$log_folder/build-${1##*/}.log" targets=() begun=$SECONDS
   shift
   while [ "$1" != -- ]; do
     targets+=("$1")
@@ -115,10 +136,11 @@ build_tree() {
   done
   shift
   configure_tree "$folder" "$@"
-  NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" "${targets[@]}" >"$log_folder/build.log" 2>&1 &
+  NINJA_STATUS='  [%f/%t] ' ninja -C "$folder" -j "$jobs" "${targets[@]}" >"$log" 2>&1 &
   local builder=$!
-  show_progress $builder "$log_folder/build.log" '\[[0-9]+/[0-9]+\]'
-  wait $builder || { grep -vE '^ *\[[0-9]+/[0-9]+\] (Building|Linking)' "$log_folder/build.log" >&2; fail "Building $folder failed"; }
+  show_progress $builder "$log" '\[[0-9]+/[0-9]+\]'
+  wait $builder || { grep -vE '^ *\[[0-9]+/[0-9]+\] (Building|Linking)' "$log" >&2; fail "Building $folder failed"; }
+  say "  $folder built in $((SECONDS - begun)) s"
 }
 
 # Logs of the scripts; never committed.

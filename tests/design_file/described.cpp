@@ -8,7 +8,7 @@ namespace tests {
 
 namespace {
 
-using namespace headless::model;
+namespace model = headless::model;
 
 /// Tells objects apart by a number in the order in which they are met.
 class Numbers {
@@ -23,7 +23,7 @@ class Numbers {
 
 class Description {
  public:
-  std::string of(const Design& design) {
+  std::string of(const model::Design& design) {
     text << std::setprecision(17) << "design " << design.name << "\n";
     for (const auto& component : design.components) {
       describe(*component);
@@ -38,30 +38,31 @@ class Description {
   }
 
  private:
-  std::string look(const std::shared_ptr<const Appearance>& appearance) {
+  std::string look(const std::shared_ptr<const model::Appearance>& appearance) {
     if (!appearance) {
       return "-";
     }
-    if (appearance == defaultMaterial()->appearance) {
+    if (appearance == model::defaultMaterial()->appearance) {
       return "default";
     }
     std::ostringstream look;
-    look << std::setprecision(17) << appearance->name << "|" << appearance->id << "|" << hexText(appearance->colour)
-         << "|" << static_cast<int>(appearance->surface) << "|" << appearance->roughness.value_or(-1)
-         << (appearance->hasTexture ? "|texture" : "") << numbers.of(appearance.get());
+    look << std::setprecision(17) << appearance->name << "|" << appearance->id << "|"
+         << model::hexText(appearance->colour) << "|" << static_cast<int>(appearance->surface) << "|"
+         << appearance->roughness.value_or(-1) << (appearance->hasTexture ? "|texture" : "")
+         << numbers.of(appearance.get());
     return look.str();
   }
 
-  std::string material(const std::shared_ptr<const Material>& material) {
+  std::string material(const std::shared_ptr<const model::Material>& material) {
     if (!material) {
       return "-";
     }
-    if (material == defaultMaterial()) {
+    if (material == model::defaultMaterial()) {
       return "default";
     }
     std::ostringstream list;
     list << std::setprecision(17) << material->name << "|" << material->id << "|" << look(material->appearance);
-    for (const MaterialProperty& property : material->properties) {
+    for (const model::MaterialProperty& property : material->properties) {
       list << "|" << property.id << "," << property.name << "," << property.unit << ",";
       if (const double* number = std::get_if<double>(&property.value)) {
         list << "number " << *number;
@@ -72,7 +73,7 @@ class Description {
     return list.str() + numbers.of(material.get());
   }
 
-  void describe(const Component& component) {
+  void describe(const model::Component& component) {
     text << "component " << component.name << " used " << component.uses << " of " << material(component.material)
          << "\n";
     for (const auto& body : component.bodies) {
@@ -91,11 +92,11 @@ class Description {
     }
   }
 
-  void describeTree(const Component& component) {
+  void describeTree(const model::Component& component) {
     if (!component.isExpanded()) {
       return;
     }
-    for (const Occurrence* occurrence : component.allOccurrences()) {
+    for (const model::Occurrence* occurrence : component.allOccurrences()) {
       if (occurrence->appearance) {
         text << "in " << component.name << " " << occurrence->fullPathName() << " looks "
              << look(occurrence->appearance) << "\n";
@@ -109,7 +110,7 @@ class Description {
 
 }  // namespace
 
-std::string described(const Design& design) {
+std::string described(const model::Design& design) {
   return Description().of(design);
 }
 

@@ -9,7 +9,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace tests {
+namespace api_types {
 namespace {
 
 using namespace adsk::core;
@@ -223,4 +223,4 @@ INSTANTIATE_TEST_SUITE_P(
 #undef VALUE
 
 }  // namespace
-}  // namespace tests
+}  // namespace api_types

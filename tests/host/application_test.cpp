@@ -8,7 +8,6 @@ namespace tests {
 namespace {
 
 using namespace adsk::core;
-using adsk::fusion::Design;
 
 class TheApplication : public HostTest {
  protected:
@@ -77,10 +76,10 @@ TEST_F(TheApplication, HasNoProductWithoutADocument) {
 
 TEST_F(TheApplication, MayHaveAProductThatIsNoDesign) {
   session().openDesign(machine());
-  EXPECT_TRUE(Ptr<Design>(app()->activeProduct()));
+  EXPECT_TRUE(Ptr<adsk::fusion::Design>(app()->activeProduct()));
   host().state().isOtherProductActive = true;
   EXPECT_TRUE(app()->activeProduct());
-  EXPECT_FALSE(Ptr<Design>(app()->activeProduct()));
+  EXPECT_FALSE(Ptr<adsk::fusion::Design>(app()->activeProduct()));
 }
 
 TEST_F(TheApplication, TellsTheLastError) {
@@ -102,7 +101,7 @@ TEST_F(TheApplication, MakesSetsOfNamedValues) {
 
 TEST_F(TheApplication, ClosesADocumentWithAllItsHandles) {
   session().openDesign(machine());
-  const Ptr<Design> design = app()->activeProduct();
+  const Ptr<adsk::fusion::Design> design = app()->activeProduct();
   const auto root = design->rootComponent();
   const auto occurrence = root->allOccurrences()->itemByName("Bolt:2");
   const auto body = occurrence->bRepBodies()->item(0);
@@ -119,7 +118,7 @@ class IdleSelectionOfAPerson : public HostTest {
  protected:
   IdleSelectionOfAPerson() { session().openDesign(machine()); }
   Ptr<adsk::fusion::Component> root() const {
-    return Ptr<Design>(Application::get()->activeProduct())->rootComponent();
+    return Ptr<adsk::fusion::Design>(Application::get()->activeProduct())->rootComponent();
   }
 };
 

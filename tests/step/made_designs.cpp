@@ -54,14 +54,14 @@ std::vector<const model::Component*> byName(const model::Design& design) {
   return components;
 }
 
-void describe(std::ostream& text, const model::Body& body) {
+void addTo(std::ostream& text, const model::Body& body) {
   text << "  body " << body.name << lookText(body.appearance) << materialText(body.material) << "\n";
   for (std::size_t i = 0; i < body.faces.size(); ++i) {
     text << "    face " << i << lookText(body.faces[i]->appearance) << "\n";
   }
 }
 
-void describe(std::ostream& text, const model::Instance& instance) {
+void addTo(std::ostream& text, const model::Instance& instance) {
   text << "  " << instance.name() << " at" << std::fixed << std::setprecision(6);
   for (const double value : instance.placement) {
     text << " " << value;
@@ -148,10 +148,10 @@ std::string describe(const model::Design& design) {
   for (const model::Component* component : byName(design)) {
     text << component->name << materialText(component->material) << "\n";
     for (const auto& body : component->bodies) {
-      describe(text, *body);
+      addTo(text, *body);
     }
     for (const auto& instance : component->instances) {
-      describe(text, *instance);
+      addTo(text, *instance);
     }
   }
   for (const model::Occurrence* occurrence : design.root().allOccurrences()) {
