@@ -30,8 +30,9 @@ class Application : public Base {
   virtual Ptr<MaterialLibraries> materialLibraries() const = 0;
   /// The signed-in user; empty when nobody is signed in (the latter assumed).
   virtual Ptr<User> currentUser() const = 0;
-  /// Account name and internal account name of the signed-in user; empty text when nobody is signed in (assumed).
+  /// Account name of the signed-in user; empty text when nobody is signed in (the latter assumed).
   virtual std::string userName() const = 0;
+  /// Internal account name of that user; empty text when nobody is signed in (the latter assumed).
   virtual std::string userId() const = 0;
   /// Number of the last error (GenericErrors) and, on request, its text in English; 0 and no text when there was none.
   /// It stays until the next error (assumed).

@@ -9,7 +9,7 @@ namespace core {
 
 class Color;
 
-/// A property that holds a colour, or a texture in place of it. All members are documented.
+/// A property that holds a colour, or a texture in place of it. All members are documented unless marked.
 class ColorProperty : public Property {
   ADSK_API_CLASS(ColorProperty, Property)
 

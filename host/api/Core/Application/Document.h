@@ -27,6 +27,7 @@ class Document : public Base {
   virtual bool isModified() const = 0;
   /// True for the one that is worked on.
   virtual bool isActive() const = 0;
+  /// True when it has a window, as each document of our host has.
   virtual bool isVisible() const = 0;
   /// Closes it; true when it is closed. What is not saved is lost, unless `saveChanges` is true: then the user is asked
   /// and may keep it open, which gives false. Not possible inside events of commands.

@@ -6,8 +6,8 @@ namespace core {
 
 class HandlerAttachments;
 
-/// A handler belongs to the client. Its destructor takes it out of every event it was added to (documented). It is no
-/// API object: it has no references and cannot be copied.
+/// A handler belongs to the client. Its destructor takes it out of every event it was added to. It is no API object: it
+/// has no references (both documented), and here it cannot be copied: a copy would share the hidden pointer.
 class EventHandler {
  public:
   EventHandler();

@@ -8,12 +8,14 @@
 namespace adsk {
 namespace core {
 
-/// Something that handlers can be added to. All members are documented.
+/// Something that handlers can be added to. All members are documented unless marked.
 class Event : public Base {
   ADSK_API_CLASS(Event, Base)
 
+  /// Name of the event, such as "execute".
   virtual std::string name() const = 0;
-  /// Who fires it: the command, the command definition or the user interface.
+  /// Who fires it: the command, the user interface for application-wide events, and the definition for its
+  /// command-created event (the last assumed).
   virtual Ptr<Base> sender() const = 0;
 };
 

@@ -6,7 +6,7 @@
 namespace adsk {
 namespace core {
 
-/// A set of named input values for a command; current hosts ignore it.
+/// A set of named input values for a command; current hosts ignore it. All members are documented.
 class NamedValues : public Base {
   ADSK_API_CLASS(NamedValues, Base)
 

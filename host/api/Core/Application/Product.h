@@ -6,7 +6,7 @@
 namespace adsk {
 namespace core {
 
-/// Base class of everything that can be edited in a document.
+/// Base class of everything that can be edited in a document (documented).
 class Product : public Base {
   ADSK_API_CLASS(Product, Base)
 };

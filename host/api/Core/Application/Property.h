@@ -8,7 +8,7 @@
 namespace adsk {
 namespace core {
 
-/// One property of a material or appearance. All members are documented.
+/// One property of a material or appearance. All members are documented unless marked.
 class Property : public Base {
   ADSK_API_CLASS(Property, Base)
 

@@ -18,12 +18,14 @@ class MaterialLibraries : public Base {
   using iterable_type = MaterialLibrary;
   /// Empty for a bad index.
   virtual Ptr<MaterialLibrary> item(int index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
-  /// Loads a local library file by its full path; empty on failure. What a second load of one file gives is not
-  /// documented: the library already loaded (assumed), or nothing.
+  /// Loads a local library file by its full path; empty on failure, which includes folders and files of another ending
+  /// than ".adsklib" (assumed). A second load of one file gives the library already loaded (assumed), or nothing.
   virtual Ptr<MaterialLibrary> load(const std::string& filename) = 0;
-  /// The library of that shown name, or of that id; empty when there is none.
+  /// The library of that shown name; empty when there is none.
   virtual Ptr<MaterialLibrary> itemByName(const std::string& name) const = 0;
+  /// The library of that id; empty when there is none.
   virtual Ptr<MaterialLibrary> itemById(const std::string& id) const = 0;
 };
 

@@ -19,7 +19,9 @@ class MaterialLibrary : public Base {
   virtual std::string name() const = 0;
   /// Internal id.
   virtual std::string id() const = 0;
+  /// Its materials; a collection without items when it has none.
   virtual Ptr<Materials> materials() const = 0;
+  /// Its appearances; a collection without items when it has none.
   virtual Ptr<Appearances> appearances() const = 0;
   /// True when delivered with the host.
   virtual bool isNative() const = 0;

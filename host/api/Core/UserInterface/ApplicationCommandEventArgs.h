@@ -12,12 +12,13 @@ namespace core {
 
 class CommandDefinition;
 
-/// What a handler of an application-wide command event is given. All members are documented.
+/// What a handler of an application-wide command event is given. All members are documented unless marked.
 class ApplicationCommandEventArgs : public EventArgs {
   ADSK_API_CLASS(ApplicationCommandEventArgs, EventArgs)
 
   /// Id of the command, which is its definition's id.
   virtual std::string commandId() const = 0;
+  /// What the command was started from; empty when that was deleted meanwhile (the latter assumed).
   virtual Ptr<CommandDefinition> commandDefinition() const = 0;
   /// Meaningful for the command-terminated event only.
   virtual CommandTerminationReason terminationReason() const = 0;

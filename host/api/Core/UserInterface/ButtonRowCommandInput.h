@@ -14,9 +14,11 @@ class ListItems;
 class ButtonRowCommandInput : public CommandInput {
   ADSK_API_CLASS(ButtonRowCommandInput, CommandInput)
 
+  /// The buttons.
   virtual Ptr<ListItems> listItems() const = 0;
   /// Empty when no button is selected. Its name is always empty: use the index.
   virtual Ptr<ListItem> selectedItem() const = 0;
+  /// False when selecting one button unselects the other.
   virtual bool isMultiSelectEnabled() const = 0;
 };
 

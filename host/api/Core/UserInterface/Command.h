@@ -18,7 +18,9 @@ class InputChangedEvent;
 class Command : public Base {
   ADSK_API_CLASS(Command, Base)
 
+  /// The inputs at the top level of its dialog; a collection without items until some are added.
   virtual Ptr<CommandInputs> commandInputs() const = 0;
+  /// What it was started from; empty when that was deleted meanwhile (the latter assumed).
   virtual Ptr<CommandDefinition> parentCommandDefinition() const = 0;
   /// Fires when the command is to act; all that is changed meanwhile is one undo step named after the command.
   virtual Ptr<CommandEvent> execute() const = 0;
@@ -26,18 +28,22 @@ class Command : public Base {
   virtual Ptr<InputChangedEvent> inputChanged() const = 0;
   /// Fires when the dialog is shown, before the user can act.
   virtual Ptr<CommandEvent> activate() const = 0;
-  /// Fires when the dialog goes to the background or ends.
+  /// Fires when the dialog goes to the background, as for a view command. Our host knows no such commands and fires it
+  /// only at the end of a command whose dialog was shown, before destroy (assumed).
   virtual Ptr<CommandEvent> deactivate() const = 0;
   /// The last event of the command.
   virtual Ptr<CommandEvent> destroy() const = 0;
-  /// Executes the command as OK does; false leaves it running. With a dialog open it stays open and one undo step is
-  /// committed (assumed); some hosts may end the command all the same.
+  /// Executes the command as OK does; `terminate` false leaves it running. With a dialog open, it stays open and one
+  /// undo step is committed (assumed); some hosts may end the command all the same. False when it was not executed, or
+  /// failed. Some hosts may refuse while an input is invalid (assumed: no).
   virtual bool doExecute(bool terminate) = 0;
   /// Without OK button the Cancel button reads "CLOSE" unless it has a text.
   virtual bool isOKButtonVisible() const = 0;
   virtual bool isOKButtonVisible(bool value) = 0;
+  /// Text of the OK button, "OK" by default; kept, and not shown, while the button is hidden.
   virtual std::string okButtonText() const = 0;
   virtual bool okButtonText(const std::string& value) = 0;
+  /// Text of the Cancel button; empty as long as it has the host's own (the latter assumed).
   virtual std::string cancelButtonText() const = 0;
   virtual bool cancelButtonText(const std::string& value) = 0;
   /// True by default: when another command starts, this one is executed if its inputs are valid.
@@ -49,9 +55,10 @@ class Command : public Base {
   /// Offered by "repeat last command"; true by default (assumed).
   virtual bool isRepeatable() const = 0;
   virtual bool isRepeatable(bool value) = 0;
-  /// Pixels at the first display.
+  /// Pixels at the first display; a size that the user gave it since is used instead. False for a size below 1 (the
+  /// latter assumed). Our host keeps the size and shows no window.
   virtual bool setDialogInitialSize(int width, int height) = 0;
-  /// Pixels, lower bound for resizing by the user.
+  /// Pixels, lower bound for resizing by the user. False for a size below 1 (the latter assumed).
   virtual bool setDialogMinimumSize(int width, int height) = 0;
 };
 

@@ -9,7 +9,7 @@ namespace core {
 
 class CommandDefinition;
 
-/// A button that starts a command. All members are documented.
+/// A button that starts a command. All members are documented unless marked.
 class CommandControl : public ToolbarControl {
   ADSK_API_CLASS(CommandControl, ToolbarControl)
 

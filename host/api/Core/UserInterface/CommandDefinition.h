@@ -16,9 +16,12 @@ class ControlDefinition;
 class CommandDefinition : public Base {
   ADSK_API_CLASS(CommandDefinition, Base)
 
+  /// Unique among all definitions.
   virtual std::string id() const = 0;
+  /// Text of its button, and of the undo steps of its commands.
   virtual std::string name() const = 0;
   virtual bool name(const std::string& value) = 0;
+  /// Text that explains the button.
   virtual std::string tooltip() const = 0;
   virtual bool tooltip(const std::string& value) = 0;
   /// Icon folder, relative to the folder of the module or full.
@@ -34,6 +37,7 @@ class CommandDefinition : public Base {
   /// False for a native definition. Ends the firing of its events; controls made from it stay as dead buttons
   /// (assumed).
   virtual bool deleteMe() = 0;
+  /// True for the host's own.
   virtual bool isNative() const = 0;
 };
 

@@ -16,6 +16,7 @@ class Command;
 class CommandEventArgs : public EventArgs {
   ADSK_API_CLASS(CommandEventArgs, EventArgs)
 
+  /// The command that the event is about.
   virtual Ptr<Command> command() const = 0;
   /// Set to true by a handler to abort the transaction of the command.
   virtual bool executeFailed() const = 0;

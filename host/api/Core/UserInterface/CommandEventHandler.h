@@ -12,7 +12,8 @@ class CommandEventArgs;
 /// To be derived from by whoever wants to be called when a CommandEvent fires.
 class CommandEventHandler : public EventHandler {
  public:
-  /// Called on the user-interface thread; what happens to an exception that leaves it is the host's affair.
+  /// Called on the user-interface thread (documented). What becomes of an exception that leaves it is not documented:
+  /// the host keeps it, and calls the next handler (assumed).
   virtual void notify(const Ptr<CommandEventArgs>& eventArgs) = 0;
 };
 

@@ -15,6 +15,7 @@ class CommandInputs;
 class CommandInput : public Base {
   ADSK_API_CLASS(CommandInput, Base)
 
+  /// Unique in the whole command.
   virtual std::string id() const = 0;
   /// The label.
   virtual std::string name() const = 0;
@@ -26,6 +27,7 @@ class CommandInput : public Base {
   virtual bool isVisible(bool value) = 0;
   /// The collection it lives in, the command's or its group's.
   virtual Ptr<CommandInputs> commandInputs() const = 0;
+  /// The command whose dialog it is in.
   virtual Ptr<Command> parentCommand() const = 0;
   /// The group; empty at the top level.
   virtual Ptr<CommandInput> parentCommandInput() const = 0;

@@ -10,13 +10,13 @@ namespace core {
 class CommandInput;
 class CommandInputs;
 
-/// What an input-changed handler is given. All members are documented.
+/// What an input-changed handler is given. All members are documented unless marked.
 class InputChangedEventArgs : public EventArgs {
   ADSK_API_CLASS(InputChangedEventArgs, EventArgs)
 
   /// The input that was changed.
   virtual Ptr<CommandInput> input() const = 0;
-  /// The inputs of the command.
+  /// The inputs of the command; some hosts may give those of the input's group (assumed: the command's).
   virtual Ptr<CommandInputs> inputs() const = 0;
 };
 

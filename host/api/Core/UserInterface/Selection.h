@@ -6,7 +6,7 @@
 namespace adsk {
 namespace core {
 
-/// One thing that is selected. A handle of a selection that was cleared is no longer valid.
+/// One thing that is selected. A handle of a selection that was cleared is no longer valid (assumed).
 class Selection : public Base {
   ADSK_API_CLASS(Selection, Base)
 

@@ -15,11 +15,14 @@ class ToolbarControl : public Base {
 
   /// Unique within the panel.
   virtual std::string id() const = 0;
+  /// Position among the controls of the panel.
   virtual size_t index() const = 0;
+  /// Not in the panel when false.
   virtual bool isVisible() const = 0;
   virtual bool isVisible(bool value) = 0;
   /// The controls that it belongs to.
   virtual Ptr<Base> parent() const = 0;
+  /// True when deleted.
   virtual bool deleteMe() = 0;
 };
 

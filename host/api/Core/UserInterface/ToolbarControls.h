@@ -20,6 +20,7 @@ class ToolbarControls : public Base {
   using iterable_type = ToolbarControl;
   /// Empty for a bad index.
   virtual Ptr<ToolbarControl> item(size_t index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
   /// Empty when there is none of that id.
   virtual Ptr<ToolbarControl> itemById(const std::string& id) const = 0;

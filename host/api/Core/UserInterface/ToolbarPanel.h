@@ -15,7 +15,9 @@ class ToolbarControls;
 class ToolbarPanel : public Base {
   ADSK_API_CLASS(ToolbarPanel, Base)
 
+  /// Unique within the workspace.
   virtual std::string id() const = 0;
+  /// Text below the panel.
   virtual std::string name() const = 0;
   /// All controls. For a panel that was deleted: a collection without controls (assumed), or nothing.
   virtual Ptr<ToolbarControls> controls() const = 0;

@@ -18,6 +18,7 @@ class ToolbarPanels : public Base {
   using iterable_type = ToolbarPanel;
   /// Empty for a bad index.
   virtual Ptr<ToolbarPanel> item(size_t index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
   /// Empty when there is none of that id.
   virtual Ptr<ToolbarPanel> itemById(const std::string& id) const = 0;

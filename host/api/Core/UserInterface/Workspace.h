@@ -17,11 +17,15 @@ class Workspace : public Base {
 
   /// Independent of the language.
   virtual std::string id() const = 0;
+  /// Name as shown.
   virtual std::string name() const = 0;
+  /// Its tabs.
   virtual Ptr<ToolbarTabs> toolbarTabs() const = 0;
   /// The panels of all tabs.
   virtual Ptr<ToolbarPanels> toolbarPanels() const = 0;
+  /// True for the one on screen; our host has one, which always is.
   virtual bool isActive() const = 0;
+  /// True for the host's own.
   virtual bool isNative() const = 0;
 };
 

@@ -18,6 +18,7 @@ class BRepBodies : public core::Base {
   using iterable_type = BRepBody;
   /// Empty for a bad index.
   virtual core::Ptr<BRepBody> item(size_t index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
   /// Empty when there is none.
   virtual core::Ptr<BRepBody> itemByName(const std::string& name) const = 0;

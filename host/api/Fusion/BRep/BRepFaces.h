@@ -17,6 +17,7 @@ class BRepFaces : public core::Base {
   using iterable_type = BRepFace;
   /// Empty for a bad index.
   virtual core::Ptr<BRepFace> item(size_t index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
 };
 

@@ -21,6 +21,7 @@ class Occurrences;
 class Component : public core::Base {
   ADSK_API_CLASS(Component, core::Base)
 
+  /// Name as in the browser, without a counter.
   virtual std::string name() const = 0;
   /// Top level of this component only.
   virtual core::Ptr<Occurrences> occurrences() const = 0;
@@ -32,6 +33,7 @@ class Component : public core::Base {
   virtual core::Ptr<core::Material> material() const = 0;
   /// Goes to all its own bodies (assumed); false for an empty material (assumed).
   virtual bool material(const core::Ptr<core::Material>& value) = 0;
+  /// The design that it is part of.
   virtual core::Ptr<Design> parentDesign() const = 0;
 };
 

@@ -19,9 +19,11 @@ class Occurrences : public core::Base {
   using iterable_type = Occurrence;
   /// Empty for a bad index.
   virtual core::Ptr<Occurrence> item(size_t index) const = 0;
+  /// How many there are.
   virtual size_t count() const = 0;
-  /// Empty when there is none.
+  /// By the occurrence's name, such as "B:1". Empty when there is none.
   virtual core::Ptr<Occurrence> itemByName(const std::string& name) const = 0;
+  /// The same occurrences, in the same order, as the other list class.
   virtual core::Ptr<OccurrenceList> asList() const = 0;
 };
 

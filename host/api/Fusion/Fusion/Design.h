@@ -16,6 +16,7 @@ class Component;
 class Design : public core::Product {
   ADSK_API_CLASS(Design, core::Product)
 
+  /// The component at the top; there always is one.
   virtual core::Ptr<Component> rootComponent() const = 0;
   /// The document's own appearances.
   virtual core::Ptr<core::Appearances> appearances() const = 0;
