@@ -62,7 +62,9 @@ struct Profile {
   bool hiddenTickIgnored = false;
   /// A click on a group's header box also expands or collapses the group.
   bool tickExpandsGroup = false;
-  /// What was selected before the command started is put into its selection input once the dialog is shown.
+  /// What was selected before the command started is put into its selection input once the dialog is shown, and that is
+  /// reported. The reference has it as the default of a member that is a preview and that older hosts lack, and says
+  /// neither when it happens nor whether an event follows: only the hostile preset does it.
   bool preselectionUsed = false;
   EditClearsSelection editClearsSelection = EditClearsSelection::AfterEvent;
   ExecuteFromTerminated executeFromTerminated = ExecuteFromTerminated::AfterHandlers;
@@ -70,13 +72,20 @@ struct Profile {
   bool attachedHandlersReported = false;
 };
 
-/// Every switch at its easiest: nothing is reported, lost or refused.
+/// Every switch at its easiest: nothing is reported, lost or refused, but for what Cancel rolls back.
 Profile lenientProfile();
-/// The documented answer where there is one, the most usual one elsewhere.
+/// The documented answer where there is one, except for preselectionUsed; the most usual one elsewhere.
 Profile documentedProfile();
-/// Every switch at its hardest under which an add-in can still do its work. The answers that by themselves take the
-/// work away (a library that cannot be loaded again, a refused appearance, a refused restart, own appearances that are
-/// not told apart, no controls of a deleted panel) are switched on one by one where they are looked at.
+/// Every switch at its hardest under which an add-in can still do its work. The exceptions are switched on one by one
+/// where they are looked at:
+/// - Answers that by themselves take the work away: a library that cannot be loaded again (secondLoad), a refused
+///   appearance (libraryAppearance), a refused restart (executeFromTerminated), own appearances that are not told apart
+///   (ownAppearanceIsOverride), no controls of a deleted panel (deletedPanelControls), an execution that is refused
+///   while an input is invalid (executeNeedsValidInputs).
+/// - attachedHandlersReported, which is in no preset: it is no answer but a watch over the add-in.
+/// - Of two answers that are hard in different ways it takes one: echoes at once, not later (echo); a restart after the
+///   handlers, not at once (executeFromTerminated); changes kept after Cancel, not rolled back (cancelledChanges). A
+///   command that ends when it is executed (executeInDialog) hides whether that clears the selection.
 Profile hostileProfile();
 
 /// The preset of that name; raises std::invalid_argument that lists the names.
