@@ -1,5 +1,5 @@
-# Links programs for Windows with LLVM's linker: that of the binutils takes time by the square of the number of sections,
-# most of a minute for the tests. Modules and the host's library are linked as users get them.
+# Links programs for Windows with LLVM's linker: that of the binutils takes time by the square of the number of
+# sections, most of a minute for the tests. Modules and the host's library are linked as users get them.
 find_program(lld ld.lld-14 REQUIRED)
 find_program(clang clang++-14 REQUIRED)
 execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=. OUTPUT_VARIABLE compiler_libraries
