@@ -16,13 +16,13 @@ class CompareJournals(unittest.TestCase):
                 place = pathlib.Path(folder, name)
                 place.mkdir()
                 for scenario, text in journals.items():
-                    (place / f"{scenario}.1.txt").write_text(text)
+                    (place / f"{scenario}.1.txt").write_bytes(text if isinstance(text, bytes) else text.encode())
             return subprocess.run([PROGRAM, f"{folder}/native", f"{folder}/windows"], capture_output=True, text=True)
 
     def test_the_same_calls_are_the_same(self):
         outcome = self.compare({"Suite.Test": CALLS}, {"Suite.Test": CALLS})
         self.assertEqual(outcome.returncode, 0)
-        self.assertIn("1 scenarios with 2 calls and events compared, 0 differ", outcome.stdout)
+        self.assertIn("1 scenarios with 2 calls and events compared, 0 differ, 0 are equal but", outcome.stdout)
 
     def test_another_answer_is_shown_with_the_calls_before_it(self):
         outcome = self.compare({"Suite.Test": CALLS}, {"Suite.Test": CALLS.replace("UserInterface\n", "none\n")})
@@ -63,6 +63,19 @@ class CompareJournals(unittest.TestCase):
             with self.subTest(lines=lines):
                 outcome = self.compare({scenario: "".join(lines)}, {scenario: "".join(reversed(lines))})
                 self.assertEqual(outcome.returncode, code)
+                self.assertIn("0 differ, 1 are equal but for" if code == 0 else "1 differ, 0 are equal but", outcome.stdout)
+
+    def test_bytes_are_compared_and_not_the_text_that_they_may_stand_for(self):
+        for native, windows, shown in (
+            (b'Document.name() -> "\xfc"\n', b'Document.name() -> "\xf6"\n', "\\xfc"),
+            (b'Document.name() -> "\xfc"\n', 'Document.name() -> "\ufffd"\n'.encode(), "\\xfc"),
+            (CALLS.encode(), CALLS.replace("\n", "\r\n").encode(), "\\r"),
+        ):
+            with self.subTest(native=native, windows=windows):
+                outcome = self.compare({"Suite.Test": native}, {"Suite.Test": windows})
+                self.assertEqual(outcome.returncode, 1)
+                self.assertIn("1 differ", outcome.stdout)
+                self.assertIn(shown, outcome.stdout)
 
 
 if __name__ == "__main__":
