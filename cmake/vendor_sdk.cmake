@@ -12,7 +12,8 @@ target_include_directories(host_api SYSTEM INTERFACE ${TINTORA_VENDOR_SDK}/inclu
 add_library(module_startup INTERFACE)
 add_library(host_libraries INTERFACE)
 foreach(name core fusion)
-  find_library(TINTORA_VENDOR_${name} NAMES ${name} ${name}.lib
+  # Looked for each time, as the SDK's folder changes with every update; one that is given by hand is taken as it is.
+  find_library(TINTORA_VENDOR_${name} NAMES ${name} ${name}.lib NO_CACHE
     PATHS ${TINTORA_VENDOR_SDK} PATH_SUFFIXES lib lib/x64 lib/win64 NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
   target_link_libraries(host_libraries INTERFACE ${TINTORA_VENDOR_${name}})
 endforeach()
