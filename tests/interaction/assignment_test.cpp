@@ -1,6 +1,10 @@
 // Apply: what is saved, what is looked up, in which order things are assigned, and what gets the material.
+#include "interaction/assignment.h"
+
+#include "shell/globals.h"
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/linked_module_path.h"
 
 namespace tests {
 namespace {
@@ -12,6 +16,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 
 constexpr const char* foam = "Foam";
 
@@ -254,6 +259,157 @@ TEST_F(MaterialAssignment, OfAnyComponentIsTheSameAsOfTheRoot) {
   session().undo();
   pickComponent(session(), componentNamed(design(), "Bolt"));
   EXPECT_EQ(editsOfApply(), ofRoot);
+}
+
+/// A link that the host does not return while the material goes to "Frame:1", and what was assigned before.
+struct LinkForMaterial {
+  const char* name;
+  Fault fault;
+  Lines edits;
+};
+
+class MissingForMaterial : public MaterialAssignment, public ::testing::WithParamInterface<LinkForMaterial> {};
+
+TEST_P(MissingForMaterial, RaisesAndKeepsWhatWasAssignedBefore) {
+  openForMaterial();
+  pickAll(session(), "Component", {"Frame:1"});
+  host().gate().setFault(GetParam().fault);
+  EXPECT_EQ(editsOfApply(), GetParam().edits);
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
+  EXPECT_THAT(history().undoSteps(), IsEmpty());
+}
+
+const std::string plateBody = "BRepBody(Frame:1+Plate:1+Plate1)";
+const Lines plateBodyOnly = {materialSet(plateBody, foam), lookCleared(plateBody)};
+const Lines plateOnly = {materialSet(plateBody, foam), lookCleared(plateBody), materialSet("Component(Plate)", foam)};
+
+INSTANTIATE_TEST_SUITE_P(
+    Links, MissingForMaterial,
+    ::testing::Values(
+        LinkForMaterial{"Children", {2, FaultAnswer::Nothing, "Occurrence.childOccurrences"}, plateBodyOnly},
+        LinkForMaterial{"Child", {2, FaultAnswer::Nothing, "OccurrenceList.item"}, plateOnly},
+        LinkForMaterial{"Bodies", {2, FaultAnswer::Nothing, "Occurrence.bRepBodies"}, {}},
+        LinkForMaterial{"Body", {2, FaultAnswer::Nothing, "BRepBodies.item"}, plateOnly},
+        LinkForMaterial{"Component", {1, FaultAnswer::Nothing, "Occurrence.component"}, plateBodyOnly}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+/// What a picked component is taken for is looked up, and may be missing.
+class MissingForComponent : public MaterialAssignment, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(MissingForComponent, RaisesAndAssignsNothing) {
+  openForMaterial();
+  pickComponent(session(), design().root());
+  host().gate().setFault({1, FaultAnswer::Nothing, GetParam()});
+  EXPECT_THAT(editsOfApply(), IsEmpty());
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
+  EXPECT_TRUE(isEnabled("idBtnApply"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls, MissingForComponent,
+                         ::testing::Values("Application.activeProduct", "Design.rootComponent",
+                                           "Component.occurrences"),
+                         [](const auto& info) {
+                           const std::string call = info.param;
+                           return call.substr(call.find('.') + 1);
+                         });
+
+TEST_F(Assignment, OfAnAppearanceToAComponentRaisesWithoutAnActiveDesign) {
+  openAndChoose();
+  assignAppearancesOnly(session());
+  pickComponent(session(), design().root());
+  host().gate().setFault({1, FaultAnswer::Nothing, "Application.activeProduct"});
+  EXPECT_THAT(editsOfApply(), IsEmpty());
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+}
+
+TEST_F(Assignment, ToAnyOtherKindOfEntityDoesNothing) {
+  openAndChoose();
+  pickAnotherKind(session());
+  EXPECT_THAT(editsOfApply(), IsEmpty());
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+  EXPECT_FALSE(isEnabled("idBtnApply"));
+}
+
+TEST_F(Assignment, GoesOnAfterAnyOtherKindOfEntity) {
+  openAndChoose();
+  pickAnotherKind(session());
+  session().pick("Base");
+  EXPECT_THAT(editsOfApply(), ElementsAre(materialSet("BRepBody(Base)", foam), lookCleared("BRepBody(Base)"),
+                                          lookSet("BRepBody(Base)", red)));
+}
+
+/// Lets the routines that are linked into the test program work on the open dialog, which the module has built. Empties
+/// their globals at its end.
+class LinkedDialog {
+ public:
+  explicit LinkedDialog(headless::Host& host) : inputs(host.ui().runner().active()->commandInputs()) {
+    tintora::appHandle = host.application();
+    tintora::uiHandle = tintora::appHandle->userInterface();
+    take("idSelection", tintora::selectionInput);
+    take("idFilterSelect", tintora::filterSelectInput);
+    take("idGroupAppearance", tintora::groupAppearanceInput);
+    take("idLibAssets", tintora::libAssetsInput);
+    take("idAppearanceList", tintora::appearanceListInput);
+    take("idGroupMaterial", tintora::groupMaterialInput);
+    take("idKeepAppearance", tintora::keepAppearanceInput);
+    take("idLibMaterials", tintora::libMaterialsInput);
+    take("idMaterialList", tintora::materialListInput);
+  }
+  LinkedDialog(const LinkedDialog&) = delete;
+  LinkedDialog& operator=(const LinkedDialog&) = delete;
+  ~LinkedDialog() {
+    tintora::appHandle = nullptr;
+    tintora::uiHandle = nullptr;
+    tintora::selectionInput = nullptr;
+    tintora::filterSelectInput = nullptr;
+    tintora::groupAppearanceInput = nullptr;
+    tintora::libAssetsInput = nullptr;
+    tintora::appearanceListInput = nullptr;
+    tintora::groupMaterialInput = nullptr;
+    tintora::keepAppearanceInput = nullptr;
+    tintora::libMaterialsInput = nullptr;
+    tintora::materialListInput = nullptr;
+  }
+
+ private:
+  template <class Input>
+  void take(const char* id, adsk::core::Ptr<Input>& global) {
+    global = inputs->itemById(id);
+  }
+
+  adsk::core::Ptr<adsk::core::CommandInputs> inputs;
+};
+
+class LinkedAssignment : public MaterialAssignment {
+ protected:
+  void openWithPaintedBasePicked() {
+    openForMaterial();
+    body("Machine", "Base").appearance = look("Paint");
+    session().pick("Base");
+  }
+};
+
+TEST_F(LinkedAssignment, ClearsTheLookWhereTheCheckBoxIsThere) {
+  openWithPaintedBasePicked();
+  const LinkedDialog dialog(host());
+  const LinkedModulePath path(folder.module());
+  tintora::applyToSelection();
+  EXPECT_EQ(materialOf(body("Machine", "Base")), foam);
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "");
+}
+
+TEST_F(LinkedAssignment, WithoutTheCheckBoxLeavesTheLookAndRaisesWhereItIsAskedForItsValue) {
+  openWithPaintedBasePicked();
+  const LinkedDialog dialog(host());
+  const LinkedModulePath path(folder.module());
+  tintora::keepAppearanceInput = nullptr;
+  EXPECT_THROW(tintora::applyToSelection(), std::exception);
+  EXPECT_EQ(materialOf(body("Machine", "Base")), foam);
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "Paint");
 }
 
 TEST_F(Assignment, OfTheRootComponentGivesTheMaterialAndExplainsAboutTheAppearance) {

@@ -5,6 +5,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "tests/inspection/stand_ins.h"
+
 namespace tests {
 
 using headless::InputView;
@@ -107,6 +109,11 @@ void raiseChangeOf(Session& session, const std::string& inputId) {
 void pickComponent(Session& session, headless::model::Component& component) {
   session.host().ui().runner().active()->selectionInput()->clearSelectionFilter();
   session.pick(session.host().document()->entities->component(component));
+}
+
+void pickAnotherKind(Session& session) {
+  session.host().ui().runner().active()->selectionInput()->clearSelectionFilter();
+  session.pick(headless::makeObject<Impostor>("adsk::fusion::ConstructionPlane"));
 }
 
 void assignAppearancesOnly(Session& session) {

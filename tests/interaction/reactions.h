@@ -44,6 +44,10 @@ void raiseChangeOf(headless::Session& session, const std::string& inputId);
 /// Picks a component. No filter of the dialog lets one through, so the filters are taken away first.
 void pickComponent(headless::Session& session, headless::model::Component& component);
 
+/// Picks a thing that is neither component nor occurrence, body or face. No filter of the dialog lets one through
+/// either.
+void pickAnotherKind(headless::Session& session);
+
 /// Closes the other group, so that Apply assigns appearances or materials only.
 void assignAppearancesOnly(headless::Session& session);
 void assignMaterialsOnly(headless::Session& session);

@@ -239,14 +239,28 @@ TEST_F(Removal, KeepsWhatWasClearedBeforeAnErrorUntilTheCommandIsCancelled) {
   EXPECT_EQ(painted(), everything);
 }
 
-/// A link that the host does not return, and what is still cleared.
+/// A link that the host does not return, and what is left uncleared then.
 struct MissingObject {
   const char* name;
   const char* call;
+  /// Which of these calls it is once Apply clears: it has looked for painted bodies before.
+  std::size_t nthInApply;
   Lines left;
 };
 
-class MissingObjects : public Removal, public ::testing::WithParamInterface<MissingObject> {};
+class MissingObjects : public Removal, public ::testing::WithParamInterface<MissingObject> {
+ protected:
+  /// What is painted of "Frame:1" and below it.
+  Lines paintedBelowFrame() {
+    Lines left;
+    for (const std::string& each : painted()) {
+      if (each.find("Frame:2") == std::string::npos && each != "Bolt:2" && each.find("Base") == std::string::npos) {
+        left.push_back(each);
+      }
+    }
+    return left;
+  }
+};
 
 TEST_P(MissingObjects, ArePassedOver) {
   openPainted();
@@ -254,13 +268,25 @@ TEST_P(MissingObjects, ArePassedOver) {
   host().gate().setFault({1, FaultAnswer::Nothing, GetParam().call});
   session().click(removeButton);
   EXPECT_TRUE(host().gate().faultStruck());
-  Lines left;
-  for (const std::string& each : painted()) {
-    if (each.find("Frame:2") == std::string::npos && each != "Bolt:2" && each.find("Base") == std::string::npos) {
-      left.push_back(each);
-    }
-  }
-  EXPECT_EQ(left, GetParam().left);
+  EXPECT_EQ(paintedBelowFrame(), GetParam().left);
+  EXPECT_EQ(history().undoSteps().size(), 1U);
+}
+
+TEST_P(MissingObjects, ArePassedOverByApplyToo) {
+  openPainted();
+  assignAppearancesOnly(session());
+  session().choose("idAppearanceList", red);
+  pickAll(session(), "Component", {"Frame:1"});
+  session().answerNext(adsk::core::DialogYes);
+  host().gate().setFault({GetParam().nthInApply, FaultAnswer::Nothing, GetParam().call});
+  session().click(applyButton);
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_EQ(session().messageBoxes().size(), 1U);
+  // The new look of the picked occurrence itself comes last.
+  Lines left = {"Frame:1"};
+  left.insert(left.end(), GetParam().left.begin(), GetParam().left.end());
+  EXPECT_EQ(paintedBelowFrame(), left);
+  EXPECT_EQ(ownLook(occurrence("Frame:1")), red);
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
 
@@ -268,14 +294,72 @@ INSTANTIATE_TEST_SUITE_P(
     Links, MissingObjects,
     ::testing::Values(MissingObject{"Children",
                                     "Occurrence.childOccurrences",
+                                    2,
                                     {"Frame:1+Plate:1", "Frame:1+Bolt:1", "Plate1", "Plate1#3", "Shank", "Shank#2",
                                      "Head", "Head#1"}},
-                      MissingObject{"Child", "OccurrenceList.item", {"Frame:1+Plate:1", "Plate1", "Plate1#3"}},
-                      MissingObject{"Bodies", "Occurrence.bRepBodies", {"Plate1", "Plate1#3"}},
-                      MissingObject{"Body", "BRepBodies.item", {"Plate1", "Plate1#3"}},
-                      MissingObject{"Faces", "BRepBody.faces", {"Plate1#3"}},
-                      MissingObject{"Face", "BRepFaces.item", {"Plate1#1"}}),
+                      MissingObject{"Child", "OccurrenceList.item", 2, {"Frame:1+Plate:1", "Plate1", "Plate1#3"}},
+                      MissingObject{"Bodies", "Occurrence.bRepBodies", 3, {"Plate1", "Plate1#3"}},
+                      MissingObject{"Body", "BRepBodies.item", 2, {"Plate1", "Plate1#3"}},
+                      MissingObject{"Faces", "BRepBody.faces", 1, {"Plate1#3"}},
+                      MissingObject{"Face", "BRepFaces.item", 1, {"Plate1#1"}}),
     [](const auto& info) { return std::string(info.param.name); });
+
+/// A link that the host does not return while Apply looks for the one painted face, the last one below "Frame:1".
+struct LinkInSearch {
+  const char* name;
+  const char* call;
+  std::size_t nth;
+  bool isFaceFound;
+};
+
+class MissingInSearch : public Removal, public ::testing::WithParamInterface<LinkInSearch> {};
+
+TEST_P(MissingInSearch, ArePassedOverByTheSearchForPaintedFaces) {
+  start();
+  headless::model::Face& face = *body("Bolt", "Head").faces[0];
+  face.appearance = look("Paint");
+  openDialog();
+  assignAppearancesOnly(session());
+  session().choose("idAppearanceList", red);
+  pickAll(session(), "Component", {"Frame:1"});
+  session().answerNext(adsk::core::DialogYes);
+  host().gate().setFault({GetParam().nth, FaultAnswer::Nothing, GetParam().call});
+  session().click(applyButton);
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_EQ(session().messageBoxes().size(), GetParam().isFaceFound ? 1U : 0U);
+  EXPECT_EQ(ownLook(face), GetParam().isFaceFound ? "" : "Paint");
+  EXPECT_EQ(ownLook(occurrence("Frame:1")), red);
+}
+
+INSTANTIATE_TEST_SUITE_P(Links, MissingInSearch,
+                         ::testing::Values(LinkInSearch{"Children", "Occurrence.childOccurrences", 1, false},
+                                           LinkInSearch{"OtherChild", "OccurrenceList.item", 1, true},
+                                           LinkInSearch{"Child", "OccurrenceList.item", 2, false},
+                                           LinkInSearch{"OtherBodies", "Occurrence.bRepBodies", 2, true},
+                                           LinkInSearch{"Bodies", "Occurrence.bRepBodies", 3, false},
+                                           LinkInSearch{"OtherBody", "BRepBodies.item", 2, true},
+                                           LinkInSearch{"Body", "BRepBodies.item", 3, false},
+                                           LinkInSearch{"OtherFaces", "BRepBody.faces", 2, true},
+                                           LinkInSearch{"Faces", "BRepBody.faces", 3, false},
+                                           LinkInSearch{"OtherFace", "BRepFaces.item", 5, true},
+                                           LinkInSearch{"Face", "BRepFaces.item", 6, false}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// With Apply it is the same for a picked body.
+TEST_F(Removal, OfFacesThatAreMissingIsPassedOverByApply) {
+  start();
+  headless::model::Body& base = body("Machine", "Base");
+  base.faces[1]->appearance = look("Paint");
+  openDialog();
+  assignAppearancesOnly(session());
+  session().choose("idAppearanceList", red);
+  session().pick("Base");
+  host().gate().setFault({1, FaultAnswer::Nothing, "BRepBody.faces"});
+  session().click(applyButton);
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+  EXPECT_EQ(ownLook(base), red);
+  EXPECT_EQ(ownLook(*base.faces[1]), "Paint");
+}
 
 TEST_F(Removal, OfAComponentWithoutOccurrencesCollectionDoesNothing) {
   openPainted();
@@ -283,6 +367,21 @@ TEST_F(Removal, OfAComponentWithoutOccurrencesCollectionDoesNothing) {
   host().gate().setFault({1, FaultAnswer::Nothing, "Component.occurrences"});
   EXPECT_THAT(editsOfRemove(), IsEmpty());
   EXPECT_TRUE(host().gate().faultStruck());
+}
+
+TEST_F(Removal, OfAnyOtherKindOfEntityDoesNothing) {
+  openPainted();
+  pickAnotherKind(session());
+  EXPECT_THAT(editsIn(traceOf(session(), [&] { raiseChangeOf(session(), removeButton); })), IsEmpty());
+  EXPECT_EQ(painted(), everything);
+}
+
+TEST_F(Removal, OfABodyBesideAnyOtherKindOfEntityIsDone) {
+  openPainted();
+  pickAnotherKind(session());
+  session().pick("Base");
+  session().click(removeButton);
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "");
 }
 
 class RemovalUnderProfile : public WithPaintedMachine<AddInUnderProfile> {};
