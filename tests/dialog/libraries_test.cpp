@@ -1,8 +1,18 @@
+#include "dialog/libraries.h"
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 #include <system_error>
+#include <utility>
 
+#include "host/libraries/library_file.h"
 #include "tests/dialog/dialog_fixture.h"
+#include "tests/support/linked_module_path.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -176,6 +186,96 @@ TEST_F(Libraries, AreMissingInASecondDialogWhereTheHostLoadsAFileOnce) {
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(7)));
   EXPECT_THAT(itemsOf("idLibAssets"), IsEmpty());
 }
+
+using adsk::core::Ptr;
+
+/// Takes every path for a library's.
+class AcceptingLibraries final : public headless::HostObject<adsk::core::MaterialLibraries> {
+ public:
+  explicit AcceptingLibraries(std::function<Ptr<adsk::core::MaterialLibrary>(const std::string&)> onLoad)
+      : answer(std::move(onLoad)) {}
+
+  Ptr<adsk::core::MaterialLibrary> load(const std::string& filename) override { return answer(filename); }
+  Ptr<adsk::core::MaterialLibrary> item(int /*index*/) const override { return nullptr; }
+  std::size_t count() const override { return 0; }
+  Ptr<adsk::core::MaterialLibrary> itemByName(const std::string& /*name*/) const override { return nullptr; }
+  Ptr<adsk::core::MaterialLibrary> itemById(const std::string& /*id*/) const override { return nullptr; }
+
+ private:
+  std::function<Ptr<adsk::core::MaterialLibrary>(const std::string&)> answer;
+};
+
+/// Has nothing but libraries.
+class LibrariesOnly final : public headless::HostObject<adsk::core::Application> {
+ public:
+  explicit LibrariesOnly(Ptr<adsk::core::MaterialLibraries> given) : libraries(std::move(given)) {}
+
+  Ptr<adsk::core::MaterialLibraries> materialLibraries() const override { return libraries; }
+  Ptr<adsk::core::UserInterface> userInterface() const override { return nullptr; }
+  Ptr<adsk::core::Product> activeProduct() const override { return nullptr; }
+  Ptr<adsk::core::Documents> documents() const override { return nullptr; }
+  Ptr<adsk::core::User> currentUser() const override { return nullptr; }
+  std::string userName() const override { return {}; }
+  std::string userId() const override { return {}; }
+  int getLastError(std::string* /*description*/) const override { return 0; }
+
+ private:
+  Ptr<adsk::core::MaterialLibraries> libraries;
+};
+
+/// The routine that is linked into the test program, at a host that accepts what the headless host would refuse.
+class LinkedLibraries : public Libraries {
+ protected:
+  void TearDown() override { tintora::appHandle = nullptr; }
+
+  /// Each library is named after its path by a host that first does what the test says.
+  std::vector<std::string> namesOf(
+      const char* kind, const std::function<void()>& whenLoading = [] {}) {
+    const LinkedModulePath path(folder.module());
+    tintora::appHandle = headless::makeObject<LibrariesOnly>(
+        headless::makeObject<AcceptingLibraries>([this, whenLoading](const std::string& file) {
+          whenLoading();
+          return host().materials().add(headless::libraries::parseLibrary(
+              materialLibrary(fs::u8path(file).filename().u8string(), {{"Brass"}}), "test"));
+        }));
+    return tintora::loadLibraryFolder(kind);
+  }
+};
+
+TEST_F(LinkedLibraries, AreNamedWhateverTheyAreAsLongAsTheHostAcceptsThem) {
+  folder.makeFolder(materialsFolder / "x.adsklib");
+  folder.write(materialsFolder / "Colours.adsklib.old", "an old library");
+  folder.write(materialsFolder / "readme.txt", "no library");
+  load();
+  EXPECT_THAT(namesOf("Materials"),
+              ::testing::UnorderedElementsAre("Colours.adsklib.old", "Metals.adsklib", "x.adsklib"));
+}
+
+#ifndef _WIN32
+using PosixLinkedLibraries = LinkedLibraries;
+
+/// Takes a folder that is being listed away from the one who lists it, as a network does that breaks down.
+void breakListingOf(const fs::path& listed) {
+  for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+    std::error_code ignored;
+    if (fs::read_symlink(entry.path(), ignored) == listed) {
+      close(std::stoi(entry.path().filename().string()));
+    }
+  }
+}
+
+TEST_F(PosixLinkedLibraries, RaiseWhenTheListingBreaksOff) {
+  load();
+  const fs::path listed = fs::canonical(folder.path() / materialsFolder);
+  try {
+    namesOf("Materials", [&listed] { breakListingOf(listed); });
+    FAIL() << "nothing was raised";
+  } catch (const fs::filesystem_error& error) {
+    EXPECT_THAT(error.what(), HasSubstr("directory_iterator::operator++"));
+    EXPECT_EQ(error.code(), std::error_code(EBADF, std::generic_category()));
+  }
+}
+#endif
 
 struct LibraryKind {
   const char* name;

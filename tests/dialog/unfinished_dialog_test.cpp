@@ -107,6 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
                       EarlyEnd{"Application.materialLibraries", 2, 7}, EarlyEnd{"MaterialLibrary.appearances", 1, 7},
                       EarlyEnd{"Application.materialLibraries", 3, 13},
                       EarlyEnd{"Application.materialLibraries", 4, 14}, EarlyEnd{"MaterialLibrary.materials", 1, 14},
+                      // The remembered colour library, and the first material library when its name is asked for.
+                      EarlyEnd{"ListItems.item", 1, 6}, EarlyEnd{"ListItems.item", 4, 14},
                       EarlyEnd{"ButtonRowCommandInput.selectedItem", 1, 16}),
     nameOf);
 

@@ -117,6 +117,18 @@ TEST_F(AddIn, SecondRunHoldsTheHostNoTighterThanTheFirst) {
   EXPECT_EQ(host().ui().refcount(), interfaceBefore);
 }
 
+TEST_F(AddIn, RunWithoutAnApplicationAnswersFalseAndLetsGoOfTheOneBefore) {
+  load();
+  const auto application = host().application();
+  const int before = application->refcount();
+  ASSERT_TRUE(session().runAddIn());
+  ASSERT_TRUE(session().stopAddIn());
+  ASSERT_EQ(application->refcount(), before + 1);
+  host().gate().setFault({1, FaultAnswer::Nothing, "Application.get"});
+  EXPECT_FALSE(session().runAddIn());
+  EXPECT_EQ(application->refcount(), before);
+}
+
 TEST_F(AddIn, HandlersStayAttachedUntilTheModuleIsUnloaded) {
   start();
   ASSERT_TRUE(session().stopAddIn());

@@ -12,7 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
@@ -82,17 +84,86 @@ TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
   EXPECT_TRUE(folder.has("my_USER_CmdSet.txt folder/Tintora.dll"));
 }
 
-TEST_F(ModulePath, IsCutAt260Characters) {
+/// Paths that are too long for the buffer are cut.
+class LongModulePath : public ModulePath {
+ protected:
+  // How long the folders' names are, and where a path is cut, depends on where a system keeps temporary files.
+  LongModulePath() { hasJournal = false; }
+
+  /// The test is over when the system has no paths that long.
+  void moveTo(const fs::path& subfolder) {
+    try {
+      folder.moveModuleTo(subfolder);
+    } catch (const fs::filesystem_error& error) {
+      ASSERT_EQ(std::getenv("CI"), nullptr) << error.what();
+      GTEST_SKIP() << "paths cannot be that long here: " << error.what();
+    }
+  }
+
+  /// Gives the module's path that many characters.
+  void makeLong(std::size_t length) {
+    const std::size_t rest = (folder.path() / "x" / "Tintora.dll").wstring().size() - 1;
+    ASSERT_LT(rest, length) << "the folder for temporary files is too deep for this test";
+    moveTo(std::string(length - rest, 'x'));
+  }
+};
+
+class ModulePathLength : public LongModulePath, public ::testing::WithParamInterface<std::size_t> {
+ protected:
+  /// One character of the buffer is for the end of the text.
+  static bool isWhole() { return GetParam() < 260; }
+};
+
+TEST_P(ModulePathLength, CutsTheEndingFrom260Characters) {
+  makeLong(GetParam());
+  if (IsSkipped() || HasFatalFailure()) {
+    return;
+  }
+  ASSERT_EQ(folder.module().wstring().size(), GetParam());
+  const fs::path guide = folder.module().parent_path() / "Tintora_UsersGuide.pdf";
+  folder.write(guide, "%PDF");
+  start();
+  session().press("idOpenHelp");
+  if (isWhole()) {
+    EXPECT_THAT(headless::desktop::openedFiles(), ElementsAre(guide.u8string()));
+  } else {
+    EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("execute(idOpenHelp): std::out_of_range")));
+    EXPECT_THAT(headless::desktop::openedFiles(), IsEmpty());
+  }
+}
+
+// The folder is whole and holds the libraries; what is missing is the ending that names the settings file.
+TEST_P(ModulePathLength, LeavesTheDialogWithoutSettingsFrom260Characters) {
+  makeLong(GetParam());
+  if (IsSkipped() || HasFatalFailure()) {
+    return;
+  }
+  start();
+  session().press("idAssetsMatMng");
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
+  if (isWhole()) {
+    EXPECT_THAT(takeErrors(), IsEmpty());
+  } else {
+    EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::out_of_range")));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Characters, ModulePathLength, ::testing::Values(258, 259, 260, 261),
+                         [](const auto& info) { return std::to_string(info.param); });
+
+TEST_F(LongModulePath, OfWhichEvenTheFolderIsCutHasNoLibraries) {
   const std::string longName(120, 'x');
-  try {
-    folder.moveModuleTo(longName + "/" + longName);
-  } catch (const fs::filesystem_error& error) {
-    ASSERT_EQ(std::getenv("CI"), nullptr) << error.what();
-    GTEST_SKIP() << "paths cannot be that long here: " << error.what();
+  moveTo(longName + "/" + longName);
+  if (IsSkipped() || HasFatalFailure()) {
+    return;
   }
   start();
   session().press("idOpenHelp");
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("execute(idOpenHelp): std::out_of_range")));
+  session().press("idAssetsMatMng");
+  EXPECT_THAT(takeErrors(),
+              ElementsAre(AllOf(StartsWith("commandCreated(idAssetsMatMng): std::filesystem::filesystem_error:"),
+                                HasSubstr("directory_iterator::directory_iterator"))));
 }
 
 TEST_F(ModulePath, AddInFolderIsTheOneOfTheModuleAndNotOfTheHost) {

@@ -1,11 +1,14 @@
 #include <algorithm>
 
 #include "host/libraries/library_file.h"
+#include "tests/shell/ordinary_user.h"
 #include "tests/shell/settings_fixture.h"
 #include "tests/support/trace.h"
 
 namespace tests {
 namespace {
+
+namespace fs = std::filesystem;
 
 using headless::FaultAnswer;
 using ::testing::ElementsAre;
@@ -66,6 +69,26 @@ TEST_F(SettingsLoading, KeepsTheDefaultsForAFileThatCannotBeRead) {
   startDialog();
   EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
 }
+
+// On Windows the standard library's own files have other line ends.
+TEST_F(SettingsLoading, TakesAFileWithPlainLineFeedsAsAnEditorLeavesIt) {
+  folder.write(settingsFile(), joinLines(otherLines) + "\n");
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(otherChoices));
+}
+
+#ifndef _WIN32
+using PosixSettingsLoading = SettingsLoading;
+
+TEST_F(PosixSettingsLoading, KeepsTheDefaultsForAFileThatMayNotBeRead) {
+  writeSettings(otherLines);
+  fs::permissions(folder.path() / settingsFile(), fs::perms(0222));
+  const OrdinaryUser user;
+  startDialog();
+  EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
+  finish();
+}
+#endif
 
 TEST_F(SettingsLoading, TakesTheFileOfTheUserWhoIsSignedIn) {
   writeSettings(otherLines);

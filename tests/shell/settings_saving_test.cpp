@@ -1,14 +1,9 @@
-#ifndef _WIN32
-#include <unistd.h>
-#endif
-
-#include <cstdlib>
 #include <ostream>
-#include <stdexcept>
 
 #include "host/libraries/library_file.h"
 #include "shell/command_settings.h"
 #include "shell/globals.h"
+#include "tests/shell/ordinary_user.h"
 #include "tests/shell/settings_fixture.h"
 #include "tests/support/trace.h"
 
@@ -222,28 +217,23 @@ TEST_F(SettingsSaving, DoesNotReportAFileThatCannotBeWritten) {
   EXPECT_EQ(ownLook(body("Machine", "Base")), "RAL 1000 Green beige");
 }
 
+TEST_F(SettingsSaving, DoesNotReportAFileThatMayOnlyBeRead) {
+  startDialog();
+  writeSettings("kept\n");
+  const fs::path file = folder.path() / settingsFile();
+  fs::permissions(file, fs::perms(0444));
+  {
+    const OrdinaryUser user;
+    apply();
+  }
+  fs::permissions(file, fs::perms(0666));
+  EXPECT_THAT(takeErrors(), IsEmpty());
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+  EXPECT_EQ(savedSettings(), onDisk("kept\n"));
+  EXPECT_EQ(ownLook(body("Machine", "Base")), "RAL 1000 Green beige");
+}
+
 #ifndef _WIN32
-/// Gives up the rights of the system's administrator, who may read everything, for as long as it lives.
-class OrdinaryUser {
- public:
-  OrdinaryUser() {
-    constexpr uid_t nobody = 65534;
-    if (isAdministrator && seteuid(nobody) != 0) {
-      throw std::runtime_error("an administrator cannot become an ordinary user");
-    }
-  }
-  ~OrdinaryUser() {
-    if (isAdministrator && seteuid(0) != 0) {
-      std::abort();
-    }
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
- private:
-  bool isAdministrator = geteuid() == 0;
-};
-
 using PosixSettingsSaving = SettingsSaving;
 
 TEST_F(PosixSettingsSaving, LeavesAFileAloneThatCanBeWrittenButNotRead) {
