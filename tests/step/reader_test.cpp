@@ -14,6 +14,8 @@
 #include "host/model/resolution.h"
 #include "host/step/error.h"
 #include "host/step/shape.h"
+#include "host/step/writer.h"
+#include "tests/step/edited_file.h"
 #include "tests/step/made_designs.h"
 #include "tests/step/step_files.h"
 
@@ -28,18 +30,28 @@ struct Contents {
   std::size_t colouredBodies = 0;
   std::size_t colouredFaces = 0;
   std::size_t colours = 0;
+  /// Of the structure, the root included; a part that stands alone in its file is below the root.
+  std::size_t levels = 0;
 
   friend bool operator==(const Contents& a, const Contents& b) {
     return a.components == b.components && a.bodies == b.bodies && a.faces == b.faces &&
            a.occurrences == b.occurrences && a.colouredBodies == b.colouredBodies &&
-           a.colouredFaces == b.colouredFaces && a.colours == b.colours;
+           a.colouredFaces == b.colouredFaces && a.colours == b.colours && a.levels == b.levels;
   }
   friend std::ostream& operator<<(std::ostream& out, const Contents& c) {
     return out << c.components << " components, " << c.bodies << " bodies, " << c.faces << " faces, " << c.occurrences
                << " occurrences, " << c.colouredBodies << " coloured bodies, " << c.colouredFaces << " coloured faces, "
-               << c.colours << " colours";
+               << c.colours << " colours, " << c.levels << " levels";
   }
 };
+
+std::size_t levelsBelow(const std::vector<model::Occurrence*>& occurrences) {
+  std::size_t deepest = 0;
+  for (const model::Occurrence* occurrence : occurrences) {
+    deepest = std::max(deepest, 1 + levelsBelow(occurrence->children));
+  }
+  return deepest;
+}
 
 Contents contentsOf(const model::Design& design) {
   Contents found;
@@ -63,6 +75,7 @@ Contents contentsOf(const model::Design& design) {
     }
   }
   found.colours = colours.size();
+  found.levels = 1 + levelsBelow(design.root().occurrences());
   return found;
 }
 
@@ -105,17 +118,34 @@ TEST_P(ReaderFiles, GiveTheirWholeContents) {
 
 INSTANTIATE_TEST_SUITE_P(
     Reader, ReaderFiles,
-    ::testing::Values(FileCase{"as1-oc-214.stp", "as1", {9, 5, 53, 27, 5, 0, 5}},
-                      FileCase{"as1-tu-203.stp", "as1", {9, 5, 53, 27, 5, 0, 5}},
-                      FileCase{"dm1-id-214.stp", "dm1", {4, 3, 24, 7, 3, 0, 3}},
-                      FileCase{"io1-cm-214.stp", "io1-cm-214", {2, 1, 29, 1, 1, 2, 2}},
-                      FileCase{"red_cube_blue_cylinder.step", "red_cube_blue_cylinder", {3, 2, 9, 2, 0, 9, 2}}),
+    ::testing::Values(FileCase{"as1-oc-214.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
+                      FileCase{"as1-tu-203.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
+                      FileCase{"dm1-id-214.stp", "dm1", {4, 3, 24, 7, 3, 0, 3, 2}},
+                      FileCase{"io1-cm-214.stp", "io1-cm-214", {2, 1, 29, 1, 1, 2, 2, 2}},
+                      FileCase{"red_cube_blue_cylinder.step", "red_cube_blue_cylinder", {3, 2, 9, 2, 0, 9, 2, 2}}),
     [](const auto& info) {
       std::string name = info.param.file;
       std::replace_if(
           name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
       return name;
     });
+
+TEST(Reader, ReadsAp242) {
+  const TemporaryFolder folder;
+  const auto design = makeMachine();
+  componentNamed(*design, "Plate").bodies[0]->appearance = colour("#123456");
+  write(*design, folder / "ap214.step");
+  EditedFile file(folder / "ap214.step");
+  file.replace(R"(FILE_SCHEMA\(\('AUTOMOTIVE_DESIGN[^']*'\)\);)",
+               "FILE_SCHEMA(('AP242_MANAGED_MODEL_BASED_3D_ENGINEERING_MIM_LF { 1 0 10303 442 1 1 4 }'));");
+  file.replace("'core data for automotive mechanical design processes'", "'managed model based 3d engineering'");
+  file.replace(R"('automotive_design',\s*2000)", "'ap242_managed_model_based_3d_engineering',2011");
+  file.save(folder / "ap242.step");
+  const auto found = read(folder / "ap242.step");
+  EXPECT_EQ(contentsOf(*found), contentsOf(*design));
+  EXPECT_NO_THROW(occurrenceAt(*found, "Frame:2+Joint:2+Bolt:1"));
+  EXPECT_EQ(model::hexText(bodyOf(*found, "Plate").appearance->colour), "#123456");
+}
 
 TEST(Reader, NamesOccurrencesAfterTheirComponentsAndCountsThrough) {
   WITH_STEP_FILE(path, "as1-tu-203.stp");
@@ -222,7 +252,7 @@ TEST(Reader, UsesOneAppearanceObjectForOneColour) {
 TEST(Reader, ReadsALargeBoardWithAnOpenShell) {
   WITH_STEP_FILE(path, "motor-driver-board-v3.5.step");
   const auto design = read(path);
-  EXPECT_EQ(contentsOf(*design), (Contents{254, 40, 687, 1413, 39, 153, 15}));
+  EXPECT_EQ(contentsOf(*design), (Contents{254, 40, 687, 1413, 39, 153, 15, 6}));
   int shells = 0;
   int mostUses = 0;
   for (const auto& component : design->components) {
