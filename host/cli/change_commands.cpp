@@ -34,11 +34,9 @@ void addRunOptions(CLI::App& command, ChangeOptions& options) {
   addAddInOptions(command, options.sitting);
 }
 
-/// Opens the file and the dialog, has the work done, closes the dialog and saves.
+/// Opens the file and the dialog, has the work done, closes the dialog and saves. The outputs were checked before.
 template <class Work>
 void changeAndSave(const ChangeOptions& options, Work&& work) {
-  checkOutputs(options.file, options.outputs);
-  checkTrace(options.file, options.sitting);
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   sitting.startAddIn();
@@ -46,6 +44,7 @@ void changeAndSave(const ChangeOptions& options, Work&& work) {
   work(sitting);
   sitting.closeDialog();
   sitting.stopAddIn();
+  sitting.finish();
   writeOutputs(sitting.session().design(), options.outputs, sitting.progress());
 }
 
@@ -91,8 +90,8 @@ void reportApply(const Assignment& assignment, const WorkDone& work, PickKind ki
   if (!work.otherLook.empty()) {
     std::cout << "Note: " << countedKind(work.otherLook.size(), kind) << " kept another appearance ("
               << listed(work.otherLook, namedObjects)
-              << "). With a material, the add-in puts back what was applied before;\nto paint over it, apply the "
-                 "appearance alone afterwards.\n";
+              << "). With a material, the add-in puts back what was applied before;\nto paint over it, add "
+                 "--set-appearance-by-material.\n";
   }
 }
 
@@ -112,8 +111,10 @@ void runApply(const ApplyOptions& options) {
   if (!assignment.appearance && !assignment.material) {
     throw UsageError("There is nothing to apply: give --appearance, --material or both");
   }
-  requireOtherFile(options.file, options.picture);
-  requireOtherFile(options.file, options.questionPicture);
+  checkOutputs(options.file, options.outputs,
+               {{"--trace", options.sitting.traceFile},
+                {"--picture", options.picture},
+                {"--question-picture", options.questionPicture}});
   changeAndSave(options, [&](Sitting& sitting) {
     prepareAnswers(sitting, options.answer.empty() ? std::nullopt : std::optional<bool>(options.answer == "yes"));
     const Picks picks = options.pick.picks();
@@ -123,6 +124,7 @@ void runApply(const ApplyOptions& options) {
 }
 
 void runClear(const ChangeOptions& options) {
+  checkOutputs(options.file, options.outputs, {{"--trace", options.sitting.traceFile}});
   changeAndSave(options, [&](Sitting& sitting) {
     const Picks picks = options.pick.picks();
     const WorkDone work = clearInDialog(sitting, picks);
@@ -148,8 +150,7 @@ struct DemoOptions {
 };
 
 void runDemo(const DemoOptions& options) {
-  checkOutputs(options.file, options.outputs);
-  checkTrace(options.file, options.sitting);
+  checkOutputs(options.file, options.outputs, {{"--trace", options.sitting.traceFile}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   playDemo(sitting, options.outputs, options.colour.isOn());
@@ -168,11 +169,10 @@ void addAssignmentOptions(CLI::App& command, ApplyOptions& options) {
       ->needs(material);
   command
       .add_flag("--set-appearance-by-material", options.setsAppearanceByMaterial,
-                "With --material and without --appearance: show the material's look instead of putting back what was "
-                "applied before")
+                "With --material: show the material's look instead of putting back what was applied before; with "
+                "--appearance as well, a second Apply gives that on top")
       ->group(applyGroup)
-      ->needs(material)
-      ->excludes(appearance);
+      ->needs(material);
   command
       .add_option(
           "--answer", options.answer,

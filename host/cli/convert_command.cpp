@@ -15,7 +15,7 @@ struct ConvertOptions {
 };
 
 void runConvert(const ConvertOptions& options) {
-  checkOutputs(options.file, options.outputs, "OUT");
+  checkOutputs(options.file, options.outputs, {}, "OUT");
   // As every command reads it, so that materials that the add-in's libraries know are those of the libraries.
   Sitting sitting(options.sitting);
   sitting.open(options.file);

@@ -223,6 +223,7 @@ void playDemo(Sitting& sitting, const OutputFiles& outputs, bool withColours) {
   demo.startAgain();
   demo.showTree(withColours);
   std::cout << "\n";
+  sitting.finish();
   writeOutputs(sitting.session().design(), outputs, sitting.progress());
 }
 

@@ -37,31 +37,34 @@ std::vector<std::string> namesIn(const InputView& list) {
   return names;
 }
 
-void choose(Session& session, const std::string& inputId, const std::string& name, const std::string& missing) {
+void choose(Sitting& sitting, const std::string& inputId, const std::string& name, const std::string& missing) {
+  Session& session = sitting.session();
   const std::vector<std::string> names = namesIn(session.input(inputId));
   if (std::find(names.begin(), names.end(), name) == names.end()) {
     const std::string near = didYouMean(name, names);
-    throw Failure(missing + " \"" + name + "\"" + (near.empty() ? "; there are " + listed(names, 5) : near));
+    throw Failure(sitting.file().u8string() + ": " + missing + " \"" + name + "\"" +
+                  (near.empty() ? "; there are " + listed(names, 5) : near));
   }
   session.choose(inputId, name);
 }
 
-void chooseItem(Session& session, const AssignmentInputs& inputs, const std::string& name) {
-  const std::string library = session.input(inputs.libraries).selectedName();
-  choose(session, inputs.items, name, "The library " + library + " has no " + inputs.what);
+void chooseItem(Sitting& sitting, const AssignmentInputs& inputs, const std::string& name) {
+  const std::string library = sitting.session().input(inputs.libraries).selectedName();
+  choose(sitting, inputs.items, name, "the library " + library + " has no " + inputs.what);
 }
 
-void fillIn(Session& session, const AssignmentInputs& inputs, const std::string& filter, const std::string& item) {
+void fillIn(Sitting& sitting, const AssignmentInputs& inputs, const std::string& filter, const std::string& item) {
   if (!filter.empty()) {
-    session.type(inputs.filter, filter);
+    sitting.session().type(inputs.filter, filter);
   }
   if (!item.empty()) {
-    chooseItem(session, inputs, item);
+    chooseItem(sitting, inputs, item);
   }
 }
 
 /// Opens the group and chooses in it, or closes it: Apply works on the groups that are open.
-void setUp(Session& session, const AssignmentInputs& inputs, const std::optional<ItemChoice>& choice) {
+void setUp(Sitting& sitting, const AssignmentInputs& inputs, const std::optional<ItemChoice>& choice) {
+  Session& session = sitting.session();
   session.expand(inputs.group, choice.has_value());
   if (!choice) {
     return;
@@ -69,9 +72,9 @@ void setUp(Session& session, const AssignmentInputs& inputs, const std::optional
   session.tick(inputs.group, true);
   const std::string what = inputs.what;
   if (!choice->library.empty()) {
-    choose(session, inputs.libraries, choice->library, "There is no library of " + what + "s called");
+    choose(sitting, inputs.libraries, choice->library, "there is no library of " + what + "s called");
   }
-  chooseItem(session, inputs, choice->name);
+  chooseItem(sitting, inputs, choice->name);
 }
 
 std::string whyApplyIsOff(const Session& session) {
@@ -179,14 +182,14 @@ void bringDialogInto(Sitting& sitting, const DialogState& state) {
   for (const std::string& group : state.closedGroups) {
     session.expand(group, false);
   }
-  fillIn(session, appearanceInputs, state.appearanceFilter, state.appearance);
-  fillIn(session, materialInputs, state.materialFilter, state.material);
+  fillIn(sitting, appearanceInputs, state.appearanceFilter, state.appearance);
+  fillIn(sitting, materialInputs, state.materialFilter, state.material);
   sitting.requireNoErrors("the dialog was being filled in");
 }
 
 std::vector<Pickable> pickInDialog(Sitting& sitting, const Picks& picks) {
   Session& session = sitting.session();
-  std::vector<Pickable> objects = matching(session.design(), picks.kind, picks.patterns);
+  std::vector<Pickable> objects = matching(session.design(), sitting.file(), picks.kind, picks.patterns);
   session.choose(ids::filterRow, static_cast<std::size_t>(picks.kind));
   session.clearPicks();
   session.pickAll(objects);
@@ -203,10 +206,13 @@ void prepareAnswers(Sitting& sitting, std::optional<bool> answer) {
   }
 }
 
-WorkDone applyInDialog(Sitting& sitting, const Picks& picks, const Assignment& assignment) {
+namespace {
+
+/// One press of Apply.
+WorkDone applyOnce(Sitting& sitting, const Picks& picks, const Assignment& assignment) {
   Session& session = sitting.session();
-  setUp(session, appearanceInputs, assignment.appearance);
-  setUp(session, materialInputs, assignment.material);
+  setUp(sitting, appearanceInputs, assignment.appearance);
+  setUp(sitting, materialInputs, assignment.material);
   if (assignment.material) {
     session.tick(ids::appearanceByMaterial, assignment.setsAppearanceByMaterial);
   }
@@ -220,6 +226,20 @@ WorkDone applyInDialog(Sitting& sitting, const Picks& picks, const Assignment& a
   if (assignment.appearance) {
     work.otherLook = withOtherLook(work.picked, assignment.appearance->name);
   }
+  return work;
+}
+
+}  // namespace
+
+// Ticking "Set Appearance by Material" makes the list of appearances begin with its first item again and puts it out of
+// reach, and opening its group again unticks the box. So whoever wants both presses Apply twice.
+WorkDone applyInDialog(Sitting& sitting, const Picks& picks, const Assignment& assignment) {
+  if (!assignment.appearance || !assignment.setsAppearanceByMaterial) {
+    return applyOnce(sitting, picks, assignment);
+  }
+  const WorkDone material = applyOnce(sitting, picks, {std::nullopt, assignment.material, true});
+  WorkDone work = applyOnce(sitting, picks, {assignment.appearance, std::nullopt, false});
+  work.hasChanged = work.hasChanged || material.hasChanged;
   return work;
 }
 

@@ -22,7 +22,8 @@ struct ItemChoice {
   std::string name;
 };
 
-/// What to assign; at least one of the two.
+/// What to assign; at least one of the two. With `setsAppearanceByMaterial`, which goes with a material, nothing that
+/// was applied before is put back.
 struct Assignment {
   std::optional<ItemChoice> appearance;
   std::optional<ItemChoice> material;
@@ -61,8 +62,9 @@ std::vector<Pickable> pickInDialog(Sitting& sitting, const Picks& picks);
 /// Who answers the add-in's questions: always that answer, or, without one, whoever sits at the terminal.
 void prepareAnswers(Sitting& sitting, std::optional<bool> answer);
 
-/// Picks, chooses and presses Apply in the open dialog. Raises Failure when something is not there or Apply cannot be
-/// pressed, saying why, and when a question stayed unanswered; what Apply did by then is not to be saved.
+/// Picks, chooses and presses Apply in the open dialog; twice where an appearance goes with a material that sets the
+/// appearance, as the dialog does not let both be chosen at a time. Raises Failure when something is not there or Apply
+/// cannot be pressed, saying why, and when a question stayed unanswered; what Apply did by then is not to be saved.
 WorkDone applyInDialog(Sitting& sitting, const Picks& picks, const Assignment& assignment);
 
 /// Picks and presses the button that removes applied appearances. Nothing is changed when it is greyed out, which means

@@ -66,9 +66,9 @@ void savePictures(Sitting& sitting, const DialogOptions& options) {
 }
 
 void runDialog(const DialogOptions& options) {
-  checkTrace(options.file, options.sitting);
-  requireOtherFile(options.file, options.picture);
-  requireOtherFile(options.file, options.toolbarPicture);
+  requireDifferentFiles(options.file, {{"--trace", options.sitting.traceFile},
+                                       {"--picture", options.picture},
+                                       {"--toolbar-picture", options.toolbarPicture}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   sitting.startAddIn();
@@ -85,6 +85,7 @@ void runDialog(const DialogOptions& options) {
   savePictures(sitting, options);
   sitting.closeDialog();
   sitting.stopAddIn();
+  sitting.finish();
 }
 
 void addStateOptions(CLI::App& command, DialogOptions& options) {

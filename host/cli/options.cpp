@@ -69,12 +69,6 @@ void addAddInOptions(CLI::App& command, SittingOptions& options) {
       ->group(hostGroup);
 }
 
-void checkTrace(const std::filesystem::path& input, const SittingOptions& options) {
-  if (!options.traceFile.empty()) {
-    requireOtherFile(input, options.traceFile);
-  }
-}
-
 Picks PickOptions::picks() const {
   const auto word = std::find(kindWords.begin(), kindWords.end(), kindWord);
   return {static_cast<PickKind>(word - kindWords.begin()), patterns};

@@ -25,9 +25,6 @@ void addHostOptions(CLI::App& command, SittingOptions& options);
 /// The same and --profile, --keep-settings, --trace and --count-calls, for commands that run the add-in.
 void addAddInOptions(CLI::App& command, SittingOptions& options);
 
-/// Raises UsageError when the trace would replace the input.
-void checkTrace(const std::filesystem::path& input, const SittingOptions& options);
-
 /// --filter and --select as given.
 struct PickOptions {
   std::string kindWord;

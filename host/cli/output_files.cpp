@@ -20,7 +20,9 @@ namespace {
 
 bool isSameFile(const fs::path& a, const fs::path& b) {
   std::error_code isMissing;
-  return fs::equivalent(a, b, isMissing) || fs::weakly_canonical(a, isMissing) == fs::weakly_canonical(b, isMissing);
+  // A relative path of which nothing is there yet stays relative, unless it is made absolute first.
+  const auto plain = [&](const fs::path& file) { return fs::weakly_canonical(fs::absolute(file), isMissing); };
+  return fs::equivalent(a, b, isMissing) || plain(a) == plain(b);
 }
 
 void requireEnding(const char* option, const fs::path& file, const std::vector<std::string>& endings) {
@@ -37,23 +39,41 @@ void requireEnding(const char* option, const fs::path& file, const std::vector<s
 
 }  // namespace
 
-void requireOtherFile(const fs::path& input, const fs::path& output) {
-  if (isSameFile(input, output)) {
-    throw UsageError("\"" + output.u8string() +
-                     "\" is the file that is read, which is never changed: name another one");
+void requireDifferentFiles(const fs::path& input, const std::vector<NamedOutput>& outputs) {
+  std::vector<NamedOutput> seen;
+  for (const NamedOutput& output : outputs) {
+    if (output.file.empty()) {
+      continue;
+    }
+    if (isSameFile(input, output.file)) {
+      throw UsageError("\"" + output.file.u8string() +
+                       "\" is the file that is read, which is never changed: name another one");
+    }
+    for (const NamedOutput& other : seen) {
+      if (isSameFile(other.file, output.file)) {
+        throw UsageError("\"" + output.file.u8string() + "\" is the file of both " + other.option + " and " +
+                         output.option + ": name another one");
+      }
+    }
+    seen.push_back(output);
   }
 }
 
-void checkOutputs(const fs::path& input, const OutputFiles& outputs, const char* designOption) {
+void checkOutputs(const fs::path& input, const OutputFiles& outputs, const std::vector<NamedOutput>& others,
+                  const char* designOption) {
   if (!outputs.design.empty()) {
     requireEnding(designOption, outputs.design, designEndings());
-    requireOtherFile(input, outputs.design);
-    requireGeometryFor(input, outputs.design);
   }
   if (!outputs.glb.empty()) {
     requireEnding("--glb", outputs.glb, {".glb"});
-    requireOtherFile(input, outputs.glb);
-    requireGeometryFor(input, outputs.glb);
+  }
+  std::vector<NamedOutput> all = {{designOption, outputs.design}, {"--glb", outputs.glb}};
+  all.insert(all.end(), others.begin(), others.end());
+  requireDifferentFiles(input, all);
+  for (const fs::path& file : {outputs.design, outputs.glb}) {
+    if (!file.empty()) {
+      requireGeometryFor(input, file);
+    }
   }
 }
 

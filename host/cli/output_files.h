@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "host/cli/progress_line.h"
 #include "host/model/design.h"
@@ -14,12 +15,20 @@ struct OutputFiles {
   std::filesystem::path glb;
 };
 
-/// Raises UsageError when writing `output` would replace `input`, under whatever name.
-void requireOtherFile(const std::filesystem::path& input, const std::filesystem::path& output);
+/// A file to be written, and the option that names it.
+struct NamedOutput {
+  const char* option;
+  std::filesystem::path file;
+};
 
-/// Raises UsageError when an output has the wrong ending, is the input, or takes geometry that the input has not.
-/// `designOption` is the name under which the command line has the design.
-void checkOutputs(const std::filesystem::path& input, const OutputFiles& outputs, const char* designOption = "--save");
+/// Raises UsageError when writing one of the outputs would replace the input or another output, under whatever name.
+/// Those without a file are passed over.
+void requireDifferentFiles(const std::filesystem::path& input, const std::vector<NamedOutput>& outputs);
+
+/// Raises UsageError when an output has the wrong ending, takes geometry that the input has not, or would replace the
+/// input, another output or one of `others`. `designOption` is the name under which the command line has the design.
+void checkOutputs(const std::filesystem::path& input, const OutputFiles& outputs,
+                  const std::vector<NamedOutput>& others = {}, const char* designOption = "--save");
 
 /// Writes the files, each whole or not at all, and says so on the standard output. Raises files::Error.
 void writeOutputs(const model::Design& design, const OutputFiles& outputs, ProgressStyle progress);

@@ -50,11 +50,11 @@ std::string hintAboutPaths(const std::vector<Pickable>& objects, const std::stri
   return paths.empty() ? "; there are none in this design" : "; there are " + listed(paths, shownPaths);
 }
 
-[[noreturn]] void failMatching(const model::Design& design, PickKind kind, const std::vector<Pickable>& objects,
-                               const std::string& pattern) {
+[[noreturn]] void failMatching(const model::Design& design, const std::filesystem::path& file, PickKind kind,
+                               const std::vector<Pickable>& objects, const std::string& pattern) {
   const std::string otherKind = hintAboutOtherKinds(design, kind, pattern);
-  throw Failure("No " + kindWords[static_cast<std::size_t>(kind)] + " of " + design.name + " matches \"" + pattern +
-                "\"" + (otherKind.empty() ? hintAboutPaths(objects, pattern) : otherKind));
+  throw Failure(file.u8string() + ": no " + kindWords[static_cast<std::size_t>(kind)] + " of " + design.name +
+                " matches \"" + pattern + "\"" + (otherKind.empty() ? hintAboutPaths(objects, pattern) : otherKind));
 }
 
 }  // namespace
@@ -63,7 +63,8 @@ std::string countedKind(std::size_t count, PickKind kind) {
   return counted(count, kindWords[static_cast<std::size_t>(kind)], kind == PickKind::Body ? "bodies" : "");
 }
 
-std::vector<Pickable> matching(const model::Design& design, PickKind kind, const std::vector<std::string>& patterns) {
+std::vector<Pickable> matching(const model::Design& design, const std::filesystem::path& file, PickKind kind,
+                               const std::vector<std::string>& patterns) {
   std::vector<Pickable> objects = pickablesOf(design, kind);
   std::vector<bool> isUsed(patterns.size(), false);
   std::vector<Pickable> found;
@@ -81,7 +82,7 @@ std::vector<Pickable> matching(const model::Design& design, PickKind kind, const
   }
   for (std::size_t i = 0; i < patterns.size(); ++i) {
     if (!isUsed[i]) {
-      failMatching(design, kind, objects, patterns[i]);
+      failMatching(design, file, kind, objects, patterns[i]);
     }
   }
   return found;

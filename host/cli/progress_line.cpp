@@ -1,7 +1,7 @@
 #include "host/cli/progress_line.h"
 
-#include <cstdio>
-#include <iostream>
+#include <cmath>
+#include <iomanip>
 
 #include "host/cli/platform.h"
 
@@ -9,8 +9,8 @@ namespace headless::cli {
 
 namespace {
 
-// What is over sooner needs no line that flickers by.
-constexpr double secondsBeforeDrawing = 0.3;
+// Back to the first column, and away with what stands there.
+constexpr const char* fresh = "\r\x1b[K";
 
 }  // namespace
 
@@ -21,18 +21,19 @@ ProgressStyle progressStyle(bool isQuiet) {
   return isTerminal(Stream::Error) ? ProgressStyle::Terminal : ProgressStyle::Lines;
 }
 
-ProgressLine::ProgressLine(ProgressStyle progressStyle, const std::string& doing, const std::string& fileName)
-    : style(progressStyle), subject(doing + " " + fileName) {
+ProgressLine::ProgressLine(ProgressStyle progressStyle, const std::string& doing, const std::string& fileName,
+                           std::ostream& errorStream, Clock::duration patienceBeforeDrawing)
+    : style(progressStyle), subject(doing + " " + fileName), stream(errorStream), patience(patienceBeforeDrawing) {
   // What was printed so far comes first, also where both streams end in one file.
   std::cout.flush();
   if (style == ProgressStyle::Lines) {
-    std::fprintf(stderr, "%s\n", subject.c_str());
+    stream << subject << "\n";
   }
 }
 
 ProgressLine::~ProgressLine() {
   if (isDrawn) {
-    std::fputs("\r\x1b[K", stderr);
+    stream << fresh << std::flush;
   }
 }
 
@@ -44,12 +45,12 @@ files::Progress ProgressLine::reporter() {
 }
 
 void ProgressLine::show(const std::string& phase, double fraction) {
-  const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-  if (!isDrawn && seconds < secondsBeforeDrawing) {
+  if (!isDrawn && Clock::now() - start < patience) {
     return;
   }
   isDrawn = true;
-  std::fprintf(stderr, "\r\x1b[K%s: %s %3.0f %%", subject.c_str(), phase.c_str(), 100 * fraction);
+  stream << fresh << subject << ": " << phase << " " << std::setw(3) << std::lround(100 * fraction) << " %"
+         << std::flush;
 }
 
 }  // namespace headless::cli

@@ -20,7 +20,7 @@ struct RenderOptions {
 };
 
 void runRender(const RenderOptions& options) {
-  requireOtherFile(options.file, options.png);
+  requireDifferentFiles(options.file, {{"--png", options.png}});
   requireGeometryFor(options.file, options.png);
   Sitting sitting(options.sitting);
   sitting.open(options.file);

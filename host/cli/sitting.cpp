@@ -51,6 +51,7 @@ Sitting::Sitting(const SittingOptions& sittingOptions)
              options.keepsSettings ? AddInCopy::Settings::Kept : AddInCopy::Settings::Fresh) {
   if (!options.traceFile.empty()) {
     traceOutput.emplace(options.traceFile);
+    isTraceDue = true;
   }
   session_ = std::make_unique<Session>(profileNamed(options.profile));
   if (traceOutput) {
@@ -66,8 +67,10 @@ Sitting::~Sitting() {
   if (options.countsCalls) {
     printCounts(session_->host().gate());
   }
-  if (traceOutput) {
-    writeTrace();
+  try {
+    finish();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "The calls were not recorded: %s\n", error.what());
   }
 }
 
@@ -87,6 +90,7 @@ void Sitting::open(const fs::path& file) {
   auto design = readDesign(
       file, [&](const std::string& name) { return materialNamed(store, name); }, line.reporter());
   session_->openDesign(std::move(design));
+  openFile = file;
 }
 
 void Sitting::startAddIn() {
@@ -136,18 +140,17 @@ void Sitting::requireNoErrors(const std::string& doing) {
   throw Failure(message);
 }
 
-void Sitting::writeTrace() {
-  try {
-    std::ofstream stream(traceOutput->path(), std::ios::binary);
-    stream << session_->host().gate().traceText();
-    stream.close();
-    if (!stream) {
-      throw files::Error("Cannot write \"" + options.traceFile.u8string() + "\": the disk may be full.");
-    }
-    traceOutput->commit();
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "The calls were not recorded: %s\n", error.what());
+void Sitting::finish() {
+  if (!std::exchange(isTraceDue, false)) {
+    return;
   }
+  std::ofstream stream(traceOutput->path(), std::ios::binary);
+  stream << session_->host().gate().traceText();
+  stream.close();
+  if (!stream) {
+    throw files::Error("Cannot write \"" + options.traceFile.u8string() + "\": the disk may be full.");
+  }
+  traceOutput->commit();
 }
 
 }  // namespace headless::cli

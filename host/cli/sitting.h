@@ -32,12 +32,15 @@ class Sitting {
   explicit Sitting(const SittingOptions& sittingOptions);
   Sitting(const Sitting&) = delete;
   Sitting& operator=(const Sitting&) = delete;
-  /// Stops the add-in, then writes the trace and the counts, also after a failure: that is when they are needed.
+  /// Stops the add-in, writes the trace unless finish() did, and prints the counts, also after a failure: that is when
+  /// they are needed.
   ~Sitting();
 
   Session& session() { return *session_; }
   const AddInCopy& addIn() const { return addIn_; }
   ProgressStyle progress() const { return progressStyle(options.isQuiet); }
+  /// The file that is open; empty before open().
+  const std::filesystem::path& file() const { return openFile; }
 
   /// Reads a file (see design_files.h) and opens it. Materials that the add-in's libraries know by name are taken from
   /// there.
@@ -51,17 +54,22 @@ class Sitting {
   /// Closes the dialog, if one is open.
   void closeDialog();
 
+  /// Writes the trace, if one is wanted; for runs that went well so far, once the add-in was stopped and before
+  /// anything is saved. Raises files::Error when it cannot be written.
+  void finish();
+
   /// Raises Failure when an exception left the add-in, naming all of them. `doing` completes "while ...".
   void requireNoErrors(const std::string& doing);
 
  private:
   void loadMaterialLibraries();
-  void writeTrace();
 
   SittingOptions options;
   AddInCopy addIn_;
   std::optional<files::AtomicFile> traceOutput;
+  bool isTraceDue = false;
   std::unique_ptr<Session> session_;
+  std::filesystem::path openFile;
   bool isRunning = false;
 };
 

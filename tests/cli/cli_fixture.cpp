@@ -1,29 +1,47 @@
 #include "tests/cli/cli_fixture.h"
 
-#include "host/step/writer.h"
+#include "host/cli/design_files.h"
+#include "host/cli/geometry.h"
+#include "tests/cli/rig_bodies.h"
 
 namespace tests {
 
-using namespace headless::step;
+namespace model = headless::model;
 
-CliTest::CliTest() : rigFile(at("rig.step")) {
-  headless::model::Design design("Rig");
-  headless::model::Component& pin = design.addComponent("Pin");
-  headless::model::Body& shaft = addBox(pin, "Shaft", 5.0);
+namespace {
+
+std::shared_ptr<const model::Appearance> colour(const char* hex) {
+  return model::makeColourAppearance(model::colourFromHex(hex));
+}
+
+model::Placement moved(double x, double z) {
+  return {1, 0, 0, x, 0, 1, 0, 0, 0, 0, 1, z};
+}
+
+}  // namespace
+
+CliTest::CliTest() {
+  model::Design design("Rig");
+  model::Component& pin = design.addComponent("Pin");
+  model::Body& shaft = addRigBody(pin, "Shaft", 5.0);
   shaft.appearance = colour("#00FF00");
   shaft.faces[1]->appearance = colour("#0000FF");
   shaft.faces[2]->appearance = shaft.faces[1]->appearance;
-  headless::model::Component& arm = design.addComponent("Arm");
-  addBox(arm, "Beam", 10.0);
-  arm.addInstance(pin, moved(0, 0, 10));
-  addBox(design.root(), "Base", 30.0).appearance = colour("#FF0000");
-  design.root().addInstance(arm, moved(0, 0, 30));
-  design.root().addInstance(arm, moved(15, 0, 30));
-  write(design, rigFile);
+  model::Component& arm = design.addComponent("Arm");
+  addRigBody(arm, "Beam", 10.0);
+  arm.addInstance(pin, moved(0, 10));
+  addRigBody(design.root(), "Base", 30.0).appearance = colour("#FF0000");
+  design.root().addInstance(arm, moved(0, 30));
+  design.root().addInstance(arm, moved(15, 30));
+  headless::cli::writeDesign(design, std::filesystem::u8path(rig()), {});
+}
+
+std::string CliTest::assemblyName(const std::string& stem) {
+  return stem + (headless::cli::hasGeometry() ? ".step" : ".design.json");
 }
 
 std::vector<std::string> CliTest::applying(std::vector<std::string> arguments) const {
-  arguments.insert(arguments.begin(), {"apply", rig(), "--save", at("out.step")});
+  arguments.insert(arguments.begin(), {"apply", rig(), "--save", saved()});
   return arguments;
 }
 

@@ -1,17 +1,16 @@
-// What the tests of the command line on STEP files share: a small assembly.
+// What the tests of the command line share: a small assembly.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "tests/cli/program_fixture.h"
-#include "tests/step/made_designs.h"
 
 namespace tests {
 
 class CliTest : public ProgramTest {
  protected:
-  /// Writes the assembly "Rig":
+  /// Writes the assembly "Rig", as STEP where the program can read that, elsewhere as a design file:
   ///
   ///   Base            body in the root, #FF0000
   ///   Arm:1           component "Arm", body "Beam", no colour of its own
@@ -21,13 +20,14 @@ class CliTest : public ProgramTest {
   /// Everything is of the default material, Steel.
   CliTest();
 
+  /// The name of a file of the same kind as the assembly's: "rig" gives "rig.step" or "rig.design.json".
+  static std::string assemblyName(const std::string& stem);
   /// The assembly.
-  const std::string& rig() const { return rigFile; }
-  /// Runs `apply` on the assembly with the remaining arguments, saving as "out.step".
+  std::string rig() const { return at(assemblyName("rig")); }
+  /// Where changed assemblies go.
+  std::string saved() const { return at(assemblyName("out")); }
+  /// Runs `apply` on the assembly with the remaining arguments, saving as saved().
   std::vector<std::string> applying(std::vector<std::string> arguments) const;
-
- private:
-  std::string rigFile;
 };
 
 }  // namespace tests

@@ -30,7 +30,7 @@ const std::vector<const char*> shownInOrder = {
     "Brass - Polished - appearance by assigned",
     "Opaque(0,0,255) - overriden appearance.",
     "Steel - Satin - appearance by assigned material.",
-    "Tintora_UsersGuide.pdf",
+    "The help button opens the user's guide",
     "Tintora_USER_CmdSet.txt",
     "[ Brass C26000 ",
     "#007CB0  RAL 5015 Sky blue   own",

@@ -11,8 +11,8 @@ class DemoUnderProfile : public CliTest, public ::testing::WithParamInterface<co
 
 TEST_P(DemoUnderProfile, ShowsEveryStep) {
   WITH_STEP_FILE(file, "as1-tu-203.stp");
-  const std::string shown =
-      succeed({"demo", file.string(), "--save", at("demo.step"), "--glb", at("demo.glb"), "--profile", GetParam()});
+  const std::string shown = succeed({"demo", file.string(), "--save", at("demo.step"), "--glb", at("demo.glb"),
+                                     "--addin", copyAddIn(), "--profile", GetParam()});
   expectEveryStep(shown);
   EXPECT_TRUE(exists("demo.step"));
   EXPECT_TRUE(exists("demo.glb"));
@@ -22,7 +22,9 @@ INSTANTIATE_TEST_SUITE_P(Profiles, DemoUnderProfile, ::testing::Values("lenient"
                          [](const auto& info) { return std::string(info.param); });
 
 TEST_F(CliTest, TheDemoNeedsItsAssembly) {
-  EXPECT_THAT(runProgram({"demo", rig(), "--save", at("demo.step")}).err, HasSubstr("No body of Rig matches"));
+  const Outcome outcome = runProgram({"demo", rig(), "--save", at("demo.step")});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr(rig() + ": no body of Rig matches"));
   EXPECT_FALSE(exists("demo.step"));
 }
 

@@ -109,8 +109,23 @@ std::unique_ptr<model::Design> demoAssembly() {
 
 TEST_F(DesignFileProgram, PlaysTheDemo) {
   design_file::write(*demoAssembly(), at("as1.design.json"));
-  expectEveryStep(succeed({"demo", at("as1.design.json"), "--save", at("demo.design.json")}));
+  const std::string shown =
+      succeed({"demo", at("as1.design.json"), "--save", at("demo.design.json"), "--addin", copyAddIn()});
+  expectEveryStep(shown);
+  EXPECT_THAT(shown, HasSubstr("Tintora_UsersGuide.pdf is not in the add-in's folder, so nothing opens."));
+  EXPECT_THAT(shown, Not(HasSubstr("Opened with")));
   EXPECT_THAT(succeed({"tree", at("demo.design.json")}), HasSubstr("RAL 5015 Sky blue"));
+}
+
+TEST_F(DesignFileProgram, OpensTheGuideInTheDemo) {
+  design_file::write(*demoAssembly(), at("as1.design.json"));
+  const std::string addIn = copyAddIn();
+  fill("addin/Tintora_UsersGuide.pdf", "%PDF-1.7\n");
+  const std::string shown =
+      succeed({"demo", at("as1.design.json"), "--save", at("demo.design.json"), "--addin", addIn});
+  expectEveryStep(shown);
+  EXPECT_THAT(shown, HasSubstr("\nOpened with the program for such files: Tintora_UsersGuide.pdf\n"));
+  EXPECT_THAT(shown, Not(HasSubstr("nothing opens")));
 }
 
 TEST_F(DesignFileProgram, DrawsPicturesIntoFilesOfAnyAlphabet) {

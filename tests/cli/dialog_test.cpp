@@ -67,7 +67,7 @@ TEST_F(CliTest, DialogIsFilledInAsAskedFor) {
 
 TEST_F(CliTest, AnItemThatTheFilterHidesCannotBeChosen) {
   EXPECT_THAT(fail(1, {"dialog", rig(), "--appearance-filter", "ral 50", "--appearance", "RAL 3003 Ruby red"}),
-              HasSubstr("The library RAL_COLORS has no appearance \"RAL 3003 Ruby red\""));
+              HasSubstr("the library RAL_COLORS has no appearance \"RAL 3003 Ruby red\""));
 }
 
 TEST_F(CliTest, DialogIsDrawnWithTheColoursOfTheLibrary) {
@@ -97,7 +97,7 @@ TEST_F(CliTest, ALibraryThatCannotBeReadIsNamedWhenTheDialogDoesNotOpen) {
   std::filesystem::create_directories(addIn / "resources/Libs/Appearances");
   std::filesystem::create_directories(addIn / "resources/Libs/Materials");
   std::filesystem::copy_file(TINTORA_MODULE, addIn / "Tintora.dll");
-  headless::step::fillFile(addIn / "resources/Libs/Appearances/RAL_COLORS.adsklib", "{\"format\": \"other\"}");
+  fill("addin/resources/Libs/Appearances/RAL_COLORS.adsklib", "{\"format\": \"other\"}");
   EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", addIn.string()}),
               AllOf(HasSubstr("while the dialog was being built"), HasSubstr("commandCreated"),
                     HasSubstr("not loaded: "), HasSubstr("RAL_COLORS.adsklib")));

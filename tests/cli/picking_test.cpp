@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 std::vector<std::string> pathsOf(PickKind kind, const std::vector<std::string>& patterns) {
   const auto design = tests::machine();
   std::vector<std::string> paths;
-  for (const Pickable& each : matching(*design, kind, patterns)) {
+  for (const Pickable& each : matching(*design, "machine.step", kind, patterns)) {
     paths.push_back(each.path);
   }
   return paths;
@@ -37,16 +37,16 @@ TEST(Picking, WhatSeveralPatternsMatchIsPickedOnceInTheOrderOfTheTree) {
 TEST(Picking, APathWithBracketsIsTakenAsItStands) {
   model::Design design("Root");
   design.root().addBody("Part [a]");
-  EXPECT_EQ(matching(design, PickKind::Body, {"Part [a]"}).size(), 1U);
+  EXPECT_EQ(matching(design, "root.step", PickKind::Body, {"Part [a]"}).size(), 1U);
 }
 
-TEST(Picking, WithoutAnyOfItsKindTheMessageSaysSo) {
+TEST(Picking, WithoutAnyOfItsKindTheMessageSaysSoAndNamesTheFile) {
   model::Design design("Root");
   try {
-    matching(design, PickKind::Body, {"x"});
+    matching(design, "root.step", PickKind::Body, {"x"});
     FAIL() << "nothing was raised";
   } catch (const Failure& failure) {
-    EXPECT_STREQ(failure.what(), "No body of Root matches \"x\"; there are none in this design");
+    EXPECT_STREQ(failure.what(), "root.step: no body of Root matches \"x\"; there are none in this design");
   }
 }
 

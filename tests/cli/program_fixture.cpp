@@ -16,6 +16,14 @@ void ProgramTest::fill(const std::string& name, const std::string& text) const {
   std::ofstream(pathOf(name), std::ios::binary) << text;
 }
 
+std::string ProgramTest::copyAddIn() const {
+  const std::filesystem::path copy = pathOf("addin");
+  std::filesystem::copy(TINTORA_ADDIN_FOLDER, copy, std::filesystem::copy_options::recursive);
+  std::filesystem::remove(copy / "Tintora_UsersGuide.pdf");
+  std::filesystem::remove(copy / "Tintora_USER_CmdSet.txt");
+  return copy.u8string();
+}
+
 std::vector<std::string> ProgramTest::filesInFolder() const {
   std::vector<std::string> names;
   for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {

@@ -22,6 +22,8 @@ class ProgramTest : public ::testing::Test {
   bool exists(const std::string& name) const { return std::filesystem::exists(pathOf(name)); }
   std::string content(const std::string& name) const;
   void fill(const std::string& name, const std::string& text) const;
+  /// Makes a copy of the add-in's folder in the test's folder, without settings and guide; gives its path.
+  std::string copyAddIn() const;
   /// Names of everything in the test's folder, sorted.
   std::vector<std::string> filesInFolder() const;
 

@@ -1,13 +1,11 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/cli_fixture.h"
-#include "tests/step/step_files.h"
 
 namespace tests {
 namespace {
 
 using ::testing::ContainsRegex;
-using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -28,11 +26,11 @@ TEST_F(CliTest, TreeShowsStructureLooksSourcesAndMaterials) {
 TEST_F(CliTest, SiblingsThatLookDifferentHaveRowsOfTheirOwn) {
   succeed(applying(
       {"--filter", "component", "--select", "Arm:2+Pin:1", "--appearance", "RAL 3000 Flame red", "--answer", "no"}));
-  const std::string tree = succeed({"tree", at("out.step")});
+  const std::string tree = succeed({"tree", saved()});
   EXPECT_THAT(tree, HasSubstr("├─ Arm:1 "));
   EXPECT_THAT(tree, HasSubstr("└─ Arm:2 "));
   EXPECT_THAT(tree, Not(HasSubstr("Arm:1-2")));
-  EXPECT_THAT(tree, ContainsRegex("Pin:1 +#A72920  Opaque\\(167,41,32\\) +own"));
+  EXPECT_THAT(tree, ContainsRegex("Pin:1 +#A72920 .* own"));
 }
 
 TEST_F(CliTest, TheWholeTreeHasARowForEveryFace) {
@@ -44,11 +42,9 @@ TEST_F(CliTest, TheWholeTreeHasARowForEveryFace) {
   EXPECT_EQ(std::count(tree.begin(), tree.end(), '\n'), 43);
 }
 
-TEST_F(CliTest, TreeInATerminalHasBlocksInTheColoursOfTheObjects) {
+TEST_F(CliTest, TreeHasBlocksInTheColoursOfTheObjectsWhenAsked) {
   EXPECT_THAT(succeed({"tree", rig(), "--colour", "always"}), HasSubstr("\x1b[48;2;255;0;0m  \x1b[0m #FF0000"));
   EXPECT_THAT(succeed({"tree", rig()}), Not(HasSubstr("\x1b")));
-  EXPECT_THAT(runInTerminal({"tree", rig()}, "").out, HasSubstr("\x1b[48;2;255;0;0m"));
-  EXPECT_THAT(runInTerminal({"tree", rig(), "--colour", "never"}, "").out, Not(HasSubstr("\x1b[48")));
 }
 
 TEST_F(CliTest, JsonTellsTheSameToPrograms) {
@@ -73,14 +69,6 @@ TEST_F(CliTest, JsonWithEverythingHasAllFaces) {
   const auto tree = nlohmann::json::parse(succeed({"tree", rig(), "--json", "--all"}));
   EXPECT_EQ(tree["bodies"][0]["faces"].size(), 6);
   EXPECT_EQ(tree["bodies"][0]["faces"][5]["source"], "body");
-}
-
-TEST_F(CliTest, TreeOfARealAssembly) {
-  WITH_STEP_FILE(file, "as1-tu-203.stp");
-  const std::string tree = succeed({"tree", file.string()});
-  EXPECT_THAT(tree, HasSubstr("l-bracket-assembly:1-2 ×2"));
-  EXPECT_THAT(tree, HasSubstr("nut-bolt-assembly:1-3 ×3"));
-  EXPECT_THAT(tree, EndsWith("9 components, 27 occurrences, 18 bodies, 160 faces\n"));
 }
 
 }  // namespace

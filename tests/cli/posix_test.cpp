@@ -1,0 +1,83 @@
+// What tests can have on POSIX systems only: a terminal, links, a limit to the size of files.
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include "tests/cli/cli_fixture.h"
+
+namespace tests {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+TEST_F(CliTest, InATerminalTheQuestionIsPutToTheUser) {
+  const Outcome outcome = runInTerminal(
+      applying({"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red"}), "what?\nyes\n");
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, HasSubstr("Tintora: Remove appearances applied to bodies & faces? [y/n]"));
+  EXPECT_THAT(outcome.out, HasSubstr("Asked: \"Remove appearances applied to bodies & faces?\" Yes"));
+  EXPECT_TRUE(exists(assemblyName("out")));
+}
+
+TEST_F(CliTest, TreeInATerminalHasBlocksInTheColoursOfTheObjects) {
+  EXPECT_THAT(runInTerminal({"tree", rig()}, "").out, HasSubstr("\x1b[48;2;255;0;0m"));
+  EXPECT_THAT(runInTerminal({"tree", rig(), "--colour", "never"}, "").out, Not(HasSubstr("\x1b[48")));
+}
+
+TEST_F(CliTest, TheInputIsRecognisedUnderAnotherName) {
+  std::filesystem::create_symlink(rig(), at(assemblyName("alias")));
+  const std::string before = content(assemblyName("rig"));
+  fail(2, {"clear", rig(), "--filter", "body", "--select", "*", "--save", at(assemblyName("alias"))});
+  EXPECT_EQ(content(assemblyName("rig")), before);
+}
+
+/// While one lives, programs that are started cannot write more into a file, as on a disk that is nearly full.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit now = before;
+    now.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &now);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, atLimit);
+  }
+
+ private:
+  rlimit before{};
+  void (*atLimit)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+class TraceOnAFullDisk : public CliTest, public ::testing::WithParamInterface<std::vector<std::string>> {};
+
+// The add-in runs in its own folder, as there is no room for a copy.
+TEST_P(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
+  std::vector<std::string> arguments = GetParam();
+  arguments.insert(arguments.begin() + 1, rig());
+  arguments.insert(arguments.end(), {"--addin", copyAddIn(), "--keep-settings", "--trace", at("calls.txt"), "--quiet"});
+  if (arguments.front() != "dialog") {
+    arguments.insert(arguments.end(), {"--save", saved()});
+  }
+  const FileSizeLimit limit(16384);
+  const Outcome outcome = runProgram(arguments);
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + at("calls.txt") + "\": the disk may be full.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, TraceOnAFullDisk,
+                         ::testing::Values(std::vector<std::string>{"dialog"},
+                                           std::vector<std::string>{"apply", "--filter", "body", "--select", "Base",
+                                                                    "--appearance", "RAL 3000 Flame red"},
+                                           std::vector<std::string>{"clear", "--filter", "body", "--select", "*"}),
+                         [](const auto& info) { return info.param.front(); });
+
+}  // namespace
+}  // namespace tests

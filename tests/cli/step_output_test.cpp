@@ -1,0 +1,98 @@
+// What takes the geometry kernel: STEP files in and out, files for viewers, pictures of assemblies.
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/cli_fixture.h"
+#include "tests/step/step_files.h"
+
+namespace tests {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+TEST_F(CliTest, SavedAlsoForViewers) {
+  succeed(applying({"--filter", "body", "--select", "*", "--appearance", "RAL 3000 Flame red", "--answer", "no",
+                    "--glb", at("out.glb")}));
+  EXPECT_THAT(content("out.glb"), StartsWith("glTF"));
+}
+
+TEST_F(CliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
+  std::filesystem::create_directory(at("out.glb"));
+  const Outcome outcome = runProgram(
+      applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", at("out.glb")}));
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr(at("out.glb")));
+  EXPECT_THAT(outcome.out, EndsWith("Saved " + saved() + "\n"));
+  EXPECT_EQ(nlohmann::json::parse(json(saved()))["bodies"][0]["own"]["colour"], "#A72920");
+  EXPECT_THAT(filesInFolder(), ElementsAre("out.glb", "out.step", "rig.step"));
+}
+
+TEST_F(CliTest, AFileThatIsInTheWayIsReplacedAsAWhole) {
+  fill("out.step", "something else");
+  succeed(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red"}));
+  EXPECT_THAT(content("out.step"), StartsWith("ISO-10303-21;"));
+  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("out"), assemblyName("rig")));
+}
+
+TEST_F(CliTest, ARealAssemblyIsPaintedAndReadBack) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  succeed({"apply", file.string(), "--filter", "body", "--select", "*+l-bracket:*/*", "--appearance",
+           "RAL 3000 Flame red", "--save", at("red.step")});
+  const auto before = nlohmann::json::parse(json(file.string()));
+  const auto after = nlohmann::json::parse(json(at("red.step")));
+  EXPECT_EQ(after["counts"], before["counts"]);
+  for (const auto& top : after["occurrences"]) {
+    for (const auto& occurrence : top["occurrences"]) {
+      if (occurrence["component"] == "l-bracket") {
+        EXPECT_EQ(occurrence["bodies"][0]["own"]["colour"], "#A72920");
+      }
+    }
+  }
+  EXPECT_EQ(after["occurrences"][0], before["occurrences"][0]);
+}
+
+TEST_F(CliTest, TreeOfARealAssembly) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  const std::string tree = succeed({"tree", file.string()});
+  EXPECT_THAT(tree, HasSubstr("l-bracket-assembly:1-2 ×2"));
+  EXPECT_THAT(tree, HasSubstr("nut-bolt-assembly:1-3 ×3"));
+  EXPECT_THAT(tree, EndsWith("9 components, 27 occurrences, 18 bodies, 160 faces\n"));
+}
+
+TEST_F(CliTest, RenderIsACommandToo) {
+  EXPECT_THAT(succeed({"--help"}), HasSubstr("render "));
+  EXPECT_THAT(fail(2, {"quux"}), HasSubstr("there are tree, dialog, render, apply, clear, demo, convert"));
+}
+
+TEST_F(CliTest, RenderDoesNotDrawOntoItsInput) {
+  EXPECT_THAT(fail(2, {"render", rig(), "--png", rig()}), HasSubstr("is the file that is read"));
+}
+
+TEST_F(CliTest, RenderRefusesTinyPictures) {
+  EXPECT_THAT(fail(2, {"render", rig(), "--png", at("out.png"), "--width", "3"}), HasSubstr("--width"));
+}
+
+TEST_F(CliTest, EndingsSayWhatIsSaved) {
+  const std::vector<std::string> clearing = {"clear", rig(), "--filter", "body", "--select", "*", "--save"};
+  const auto clearingInto = [&](const std::vector<std::string>& outputs) {
+    std::vector<std::string> arguments = clearing;
+    arguments.insert(arguments.end(), outputs.begin(), outputs.end());
+    return arguments;
+  };
+  EXPECT_THAT(fail(2, clearingInto({"out.glb"})),
+              HasSubstr("--save out.glb: the name must end in .step, .stp, .p21, .design.json"));
+  EXPECT_THAT(fail(2, clearingInto({saved(), "--glb", "out.step"})), HasSubstr("the name must end in .glb"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
+TEST_F(CliTest, AFileForViewersIsNoneOfTheOthers) {
+  EXPECT_THAT(fail(2, {"clear", rig(), "--filter", "body", "--select", "*", "--save", saved(), "--glb", at("out.glb"),
+                       "--trace", at("out.glb")}),
+              HasSubstr("is the file of both --glb and --trace"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
+}  // namespace
+}  // namespace tests
