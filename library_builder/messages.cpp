@@ -27,11 +27,12 @@ std::string countsOf(const Tally& tally) {
   return text;
 }
 
-// The way to the library, in the words of the user guide, which tells more about each step.
-constexpr const char* stepOpen =
-    "Press A to open the Appearance dialog. The upper half shows the appearances that are in the design.";
-constexpr const char* stepMake = "Make a new user library in that dialog and name it exactly RAL_COLORS, in capitals.";
-constexpr const char* stepFill = "Put all RAL appearances into it.";
+// The way to the library, in the words of the user guide, which tells more about each step. It was taken from
+// documentation: the material browser makes user libraries; which buttons it has for that is not known.
+constexpr const char* stepOpen = "Choose Manage Materials in the menu Modify: the material browser opens.";
+constexpr const char* stepMake =
+    "Make a new user library in the material browser and name it exactly RAL_COLORS, in capitals.";
+constexpr const char* stepFill = "Put all RAL appearances of the design into it.";
 constexpr const char* stepCopy =
     "The library is a file RAL_COLORS.adsklib. Copy it into the add-in's folder resources\\Libs\\Appearances.";
 constexpr const char* stepClose = "Close the design that the script made, without saving.";
@@ -43,8 +44,9 @@ std::string wayToTheLibrary() {
     text += "\n" + std::to_string(++number) + ". " + step;
   }
   return text +
-         "\n\nThe add-in's folder is usually %APPDATA%\\Autodesk\\Autodesk Fusion 360\\API\\AddIns\\Tintora. The user "
-         "guide says more.";
+         "\n\nThe add-in's folder is the one in which Tintora.dll lies, usually "
+         "%APPDATA%\\Autodesk\\Autodesk Fusion 360\\API\\AddIns\\Tintora or, for the bundle, "
+         "%APPDATA%\\Autodesk\\ApplicationPlugins\\Tintora.bundle\\Contents. The user guide says more.";
 }
 
 }  // namespace

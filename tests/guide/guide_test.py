@@ -62,6 +62,7 @@ class UsersGuide(unittest.TestCase):
             raise RuntimeError(outcome.stdout + outcome.stderr)
         info = subprocess.run(["pdfinfo", cls.pdf], capture_output=True, text=True, check=True).stdout
         cls.info = dict(re.findall(r"^(.+?):\s+(.*)$", info, re.M))
+        cls.source = GUIDE.read_text(encoding="utf-8")
         cls.pages = [cls.text_of_page(number + 1) for number in range(int(cls.info["Pages"]))]
 
     @classmethod
@@ -125,6 +126,19 @@ class UsersGuide(unittest.TestCase):
         self.assertEqual(len(steps), 5)
         for step in steps:
             self.assert_says(step.replace("\\\\", "\\"))
+        # A library of materials is made in the same place.
+        way = "Choose *Manage Materials* in the menu *Modify*: the material browser opens."
+        for chapter in ("# Making the RAL library", "## A library of materials"):
+            text = plain(self.source.split(f"\n{chapter}")[1].split("\n#")[0])
+            self.assertIn(way, text)
+            self.assertIn("Make a new user library in the material browser", text)
+        self.assertIn(way.replace("*", ""), steps)
+
+    def test_says_that_the_way_to_the_library_was_never_tried(self):
+        chapter = plain(self.source.split("\n# Making the RAL library")[1].split("\n## ")[0])
+        self.assertIn("<strong>Never tried.</strong> Steps 4 to 7", chapter)
+        self.assertRegex(chapter, r"4\. Choose \*Manage Materials\*")
+        self.assertRegex(chapter, r"7\. The library is a file")
 
     def test_names_the_labels_of_the_dialog(self):
         source = (PROJECT / "dialog" / "command_dialog.cpp").read_text(encoding="utf-8")

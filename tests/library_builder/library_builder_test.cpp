@@ -76,7 +76,7 @@ TEST_F(LibraryBuilder, SaysHowTheAppearancesBecomeALibrary) {
   EXPECT_EQ(box.icon, adsk::core::InformationIconType);
   EXPECT_EQ(box.buttons, adsk::core::OKButtonType);
   EXPECT_THAT(box.text, AllOf(HasSubstr("216 of 216"), HasSubstr("216 made now, 0 there before"),
-                              HasSubstr("new user library in that dialog and name it exactly RAL_COLORS"),
+                              HasSubstr("user library in the material browser and name it exactly RAL_COLORS"),
                               Not(HasSubstr("gloss"))));
 }
 
@@ -85,7 +85,9 @@ TEST_F(LibraryBuilder, NamesThePlaceWhereTheAddInLooks) {
   std::string folder = tintora::libraryFolder(tintora::appearanceLibraries);
   std::replace(folder.begin(), folder.end(), '/', '\\');
   EXPECT_THAT(lastMessage().text,
-              AllOf(HasSubstr("a file RAL_COLORS.adsklib"), HasSubstr("the add-in's folder " + folder + ".")));
+              AllOf(HasSubstr("a file RAL_COLORS.adsklib"), HasSubstr("the add-in's folder " + folder + "."),
+                    HasSubstr("in which Tintora.dll lies"), HasSubstr("\\API\\AddIns\\Tintora or"),
+                    HasSubstr("\\ApplicationPlugins\\Tintora.bundle\\Contents.")));
 }
 
 TEST_F(LibraryBuilder, KeepsWhatExistsWhenItIsCancelled) {
