@@ -30,6 +30,6 @@ add_library(library_builder_objects OBJECT
 )
 set(TINTORA_LIBRARY_BUILDER_FOLDER ${CMAKE_BINARY_DIR}/scripts/TintoraLibraryBuilder)
 add_host_module(TintoraLibraryBuilder library_builder_objects ${TINTORA_LIBRARY_BUILDER_FOLDER}
-  "Makes the RAL appearances for the library RAL_COLORS")
+  "${LIBRARY_BUILDER_DESCRIPTION}")
 configure_file(library_builder/library_builder.manifest.in
   ${TINTORA_LIBRARY_BUILDER_FOLDER}/TintoraLibraryBuilder.manifest @ONLY)

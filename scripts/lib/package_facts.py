@@ -1,21 +1,33 @@
-"""What the scripts about modules and packages share: the project's name, version and description, and what Windows sees
-of a module."""
+"""What the scripts about modules and packages share: the project's name, version and texts, and what Windows sees of a
+module."""
 import pathlib
 import re
+import struct
 import subprocess
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 # The library that a module built against the headless host imports, and one built for the CAD program does not.
 HEADLESS_HOST = "TintoraHost.dll"
-AUTHOR = "The Tintora developers"
 
 
 def project():
     """The values that templates name, from the places that have them."""
     text = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
     found = re.search(r'^project\((\w+)\n  VERSION ([\d.]+)\n  DESCRIPTION "([^"]+)"$', text, re.MULTILINE)
-    names = ("PROJECT_NAME", "PROJECT_VERSION", "PROJECT_DESCRIPTION", "AUTHOR")
-    return dict(zip(names, (*found.groups(), AUTHOR)))
+    values = dict(zip(("PROJECT_NAME", "PROJECT_VERSION", "PROJECT_DESCRIPTION"), found.groups()))
+    for name in ("TINTORA_AUTHOR", "LIBRARY_BUILDER_DESCRIPTION"):
+        values[name] = re.search(rf'^set\({name}\s+"([^"]+)"\)$', text, re.MULTILINE).group(1)
+    return values
+
+
+# The machine in the header of a module for 64-bit Windows.
+AMD64 = 0x8664
+
+
+def machine_of(content):
+    """The machine that the header in the content of a Windows module names."""
+    header = struct.unpack_from("<I", content, 0x3C)[0]
+    return struct.unpack_from("<4xH", content, header)[0]
 
 
 class Module:
