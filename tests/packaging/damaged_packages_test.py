@@ -132,6 +132,7 @@ class DamagedPackages(unittest.TestCase):
                 outcome = self.check(damage)
                 self.assertEqual(outcome.returncode, 1, outcome.stdout)
                 self.assertIn(word, outcome.stdout + outcome.stderr)
+                self.assertNotIn("Traceback", outcome.stderr, "the check itself failed")
 
 
 if __name__ == "__main__":
