@@ -141,10 +141,7 @@ TEST(Reader, ReadsAp242) {
   file.replace("'core data for automotive mechanical design processes'", "'managed model based 3d engineering'");
   file.replace(R"('automotive_design',\s*2000)", "'ap242_managed_model_based_3d_engineering',2011");
   file.save(folder / "ap242.step");
-  const auto found = read(folder / "ap242.step");
-  EXPECT_EQ(contentsOf(*found), contentsOf(*design));
-  EXPECT_NO_THROW(occurrenceAt(*found, "Frame:2+Joint:2+Bolt:1"));
-  EXPECT_EQ(model::hexText(bodyOf(*found, "Plate").appearance->colour), "#123456");
+  EXPECT_EQ(describe(*read(folder / "ap242.step")), describe(*design));
 }
 
 TEST(Reader, NamesOccurrencesAfterTheirComponentsAndCountsThrough) {
