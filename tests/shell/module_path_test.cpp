@@ -87,11 +87,17 @@ TEST_F(ModulePath, FolderNamedLikeAModuleIsReplacedInsteadOfTheFile) {
 /// Paths that are too long for the buffer are cut.
 class LongModulePath : public ModulePath {
  protected:
-  // How long the folders' names are, and where a path is cut, depends on where a system keeps temporary files.
-  LongModulePath() { hasJournal = false; }
+  // Not every system removes what has so long a path.
+  void TearDown() override {
+    if (!IsSkipped() && !HasFatalFailure()) {
+      finish();
+      fs::rename(folder.path() / top, folder.path() / "short");
+    }
+  }
 
   /// The test is over when the system has no paths that long.
   void moveTo(const fs::path& subfolder) {
+    top = *subfolder.begin();
     try {
       folder.moveModuleTo(subfolder);
     } catch (const fs::filesystem_error& error) {
@@ -100,44 +106,41 @@ class LongModulePath : public ModulePath {
     }
   }
 
-  /// Gives the module's path that many characters.
-  void makeLong(std::size_t length) {
-    const std::size_t rest = (folder.path() / "x" / "Tintora.dll").wstring().size() - 1;
-    ASSERT_LT(rest, length) << "the folder for temporary files is too deep for this test";
-    moveTo(std::string(length - rest, 'x'));
-  }
+  const fs::path veryLong = fs::path(std::string(120, 'x')) / std::string(120, 'x');
+
+ private:
+  fs::path top;
 };
 
-class ModulePathLength : public LongModulePath, public ::testing::WithParamInterface<std::size_t> {
+class ModulePathLength : public ModulePath, public ::testing::WithParamInterface<std::size_t> {
  protected:
+  // How long the file's name is depends on where a system keeps temporary files.
+  ModulePathLength() { hasJournal = false; }
+
+  /// The file has so long a name that its path has that many characters.
+  void SetUp() override {
+    const std::size_t rest = (folder.path() / ".dll").wstring().size();
+    ASSERT_LT(rest, GetParam()) << "the folder for temporary files is too deep for this test";
+    folder.renameModule(std::string(GetParam() - rest, 'x') + ".dll");
+    ASSERT_EQ(folder.module().wstring().size(), GetParam());
+  }
+
   /// One character of the buffer is for the end of the text.
   static bool isWhole() { return GetParam() < 260; }
 };
 
-TEST_P(ModulePathLength, CutsTheEndingFrom260Characters) {
-  makeLong(GetParam());
-  if (IsSkipped() || HasFatalFailure()) {
-    return;
-  }
-  ASSERT_EQ(folder.module().wstring().size(), GetParam());
-  const fs::path guide = folder.module().parent_path() / "Tintora_UsersGuide.pdf";
-  folder.write(guide, "%PDF");
+TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereIsNoGuide) {
   start();
   session().press("idOpenHelp");
   if (isWhole()) {
-    EXPECT_THAT(headless::desktop::openedFiles(), ElementsAre(guide.u8string()));
+    EXPECT_THAT(takeErrors(), IsEmpty());
   } else {
     EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("execute(idOpenHelp): std::out_of_range")));
-    EXPECT_THAT(headless::desktop::openedFiles(), IsEmpty());
   }
 }
 
 // The folder is whole and holds the libraries; what is missing is the ending that names the settings file.
-TEST_P(ModulePathLength, LeavesTheDialogWithoutSettingsFrom260Characters) {
-  makeLong(GetParam());
-  if (IsSkipped() || HasFatalFailure()) {
-    return;
-  }
+TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereAreNoSettings) {
   start();
   session().press("idAssetsMatMng");
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
@@ -148,18 +151,45 @@ TEST_P(ModulePathLength, LeavesTheDialogWithoutSettingsFrom260Characters) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Characters, ModulePathLength, ::testing::Values(258, 259, 260, 261),
+INSTANTIATE_TEST_SUITE_P(Characters, ModulePathLength, ::testing::Values(258, 259, 261, 262),
+                         [](const auto& info) { return std::to_string(info.param); });
+#ifndef _WIN32
+// Wine gives these without an end, and so whole; Windows is documented to cut them.
+INSTANTIATE_TEST_SUITE_P(PosixCharacters, ModulePathLength, ::testing::Values(260),
                          [](const auto& info) { return std::to_string(info.param); });
 
-TEST_F(LongModulePath, OfWhichEvenTheFolderIsCutHasNoLibraries) {
-  const std::string longName(120, 'x');
-  moveTo(longName + "/" + longName);
+using PosixModulePath = ModulePath;
+
+// Windows itself opens no guide whose path is that long.
+TEST_F(PosixModulePath, OfWhichTheGuidesIsLongerThan260CharactersHasAGuide) {
+  const std::size_t rest = (folder.path() / ".dll").wstring().size();
+  const std::string name(259 - rest, 'x');
+  folder.renameModule(name + ".dll");
+  folder.write(name + "_UsersGuide.pdf", "%PDF");
+  start();
+  session().press("idOpenHelp");
+  EXPECT_THAT(headless::desktop::openedFiles(), ElementsAre((folder.path() / (name + "_UsersGuide.pdf")).u8string()));
+}
+#endif
+
+TEST_F(LongModulePath, OfWhichEvenTheFolderIsCutHasNoGuide) {
+  moveTo(veryLong);
   if (IsSkipped() || HasFatalFailure()) {
     return;
   }
   start();
   session().press("idOpenHelp");
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("execute(idOpenHelp): std::out_of_range")));
+}
+
+TEST_F(LongModulePath, OfWhichEvenTheFolderIsCutHasNoLibraries) {
+  // The error names the folder as far as it goes, which depends on where a system keeps temporary files.
+  hasJournal = false;
+  moveTo(veryLong);
+  if (IsSkipped() || HasFatalFailure()) {
+    return;
+  }
+  start();
   session().press("idAssetsMatMng");
   EXPECT_THAT(takeErrors(),
               ElementsAre(AllOf(StartsWith("commandCreated(idAssetsMatMng): std::filesystem::filesystem_error:"),
