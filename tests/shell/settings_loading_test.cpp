@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "host/libraries/library_file.h"
-#include "tests/shell/ordinary_user.h"
+#include "tests/shell/file_rights.h"
 #include "tests/shell/settings_fixture.h"
 #include "tests/support/trace.h"
 

@@ -3,7 +3,7 @@
 #include "host/libraries/library_file.h"
 #include "shell/command_settings.h"
 #include "shell/globals.h"
-#include "tests/shell/ordinary_user.h"
+#include "tests/shell/file_rights.h"
 #include "tests/shell/settings_fixture.h"
 #include "tests/support/trace.h"
 
@@ -220,13 +220,10 @@ TEST_F(SettingsSaving, DoesNotReportAFileThatCannotBeWritten) {
 TEST_F(SettingsSaving, DoesNotReportAFileThatMayOnlyBeRead) {
   startDialog();
   writeSettings("kept\n");
-  const fs::path file = folder.path() / settingsFile();
-  fs::permissions(file, fs::perms(0444));
   {
-    const OrdinaryUser user;
+    const ReadOnlyFile file(folder.path() / settingsFile());
     apply();
   }
-  fs::permissions(file, fs::perms(0666));
   EXPECT_THAT(takeErrors(), IsEmpty());
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
   EXPECT_EQ(savedSettings(), onDisk("kept\n"));
