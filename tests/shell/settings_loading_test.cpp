@@ -83,10 +83,11 @@ using PosixSettingsLoading = SettingsLoading;
 TEST_F(PosixSettingsLoading, KeepsTheDefaultsForAFileThatMayNotBeRead) {
   writeSettings(otherLines);
   fs::permissions(folder.path() / settingsFile(), fs::perms(0222));
-  const OrdinaryUser user;
-  startDialog();
+  {
+    const OrdinaryUser user;
+    startDialog();
+  }
   EXPECT_THAT(choices(), ElementsAreArray(defaultChoices));
-  finish();
 }
 #endif
 
