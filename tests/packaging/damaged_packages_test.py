@@ -119,7 +119,7 @@ class DamagedPackages(unittest.TestCase):
                 damage(files, "Tintora.bundle/Contents/" if "bundle" in package.name else "Tintora/")
                 with zipfile.ZipFile(pathlib.Path(folder, package.name), "w") as copy:
                     for name in sorted(files):
-                        copy.writestr(entries.get(name, name), files[name])
+                        copy.writestr(entries.get(name, name), files[name], zipfile.ZIP_STORED)
             return subprocess.run([CHECK, folder], capture_output=True, text=True)
 
     def test_sound_packages_pass(self):
