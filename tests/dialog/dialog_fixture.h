@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "shell/globals.h"
 #include "tests/support/addin_fixture.h"
 
 namespace tests {
@@ -49,40 +48,6 @@ class DialogTest : public AddInTest {
       ids.push_back(input.id);
       appendIds(input.children, ids);
     }
-  }
-};
-
-/// Lets the routines that are linked into the test program work on the open dialog, which the module has built. Empties
-/// their globals at its end.
-class LinkedGlobals {
- public:
-  explicit LinkedGlobals(headless::Host& host) {
-    tintora::appHandle = host.application();
-    tintora::commandInputs = host.ui().runner().active()->inputs().handle();
-    take("idSelection", tintora::selectionInput);
-    take("idFilterSelect", tintora::filterSelectInput);
-    take("idActAppearance", tintora::actAppearanceInput);
-    take("idActMaterial", tintora::actMaterialInput);
-    take("idLibAssets", tintora::libAssetsInput);
-    take("idLibMaterials", tintora::libMaterialsInput);
-  }
-  LinkedGlobals(const LinkedGlobals&) = delete;
-  LinkedGlobals& operator=(const LinkedGlobals&) = delete;
-  ~LinkedGlobals() {
-    tintora::appHandle = nullptr;
-    tintora::commandInputs = nullptr;
-    tintora::selectionInput = nullptr;
-    tintora::filterSelectInput = nullptr;
-    tintora::actAppearanceInput = nullptr;
-    tintora::actMaterialInput = nullptr;
-    tintora::libAssetsInput = nullptr;
-    tintora::libMaterialsInput = nullptr;
-  }
-
- private:
-  template <class Input>
-  static void take(const char* id, adsk::core::Ptr<Input>& global) {
-    global = tintora::commandInputs->itemById(id);
   }
 };
 

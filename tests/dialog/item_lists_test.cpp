@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "tests/dialog/dialog_fixture.h"
+#include "tests/support/linked_dialog.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -329,7 +330,7 @@ class ListRoutines : public ItemLists, public ::testing::WithParamInterface<List
 
 TEST_P(ListRoutines, DoNothingForInputsOfAnotherKindOrNone) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   session().choose("idMaterialList", "Foam");
   session().choose("idAppearanceList", "RAL 5015 Sky blue");
   EXPECT_NO_THROW(tintora::fillItemList(GetParam().library, GetParam().filter, GetParam().list));
@@ -349,7 +350,7 @@ INSTANTIATE_TEST_SUITE_P(Inputs, ListRoutines,
 
 TEST_F(ItemLists, OfALibraryThatNobodyKnowsAreEmpty) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   EXPECT_THAT(tintora::listAppearanceNames("Nobody", ""), IsEmpty());
   EXPECT_THAT(tintora::listMaterialNames("Nobody", "x"), IsEmpty());
   EXPECT_THAT(tintora::listMaterialNames("metals", ""), IsEmpty());
@@ -357,7 +358,7 @@ TEST_F(ItemLists, OfALibraryThatNobodyKnowsAreEmpty) {
 
 TEST_F(ItemLists, OfAppearancesAndMaterialsReadTheirOwnPartOfALibrary) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   EXPECT_THAT(tintora::listAppearanceNames("RAL_COLORS", ""), ElementsAreArray(ralNames));
   EXPECT_THAT(tintora::listMaterialNames("RAL_COLORS", ""), IsEmpty());
   EXPECT_THAT(tintora::listMaterialNames("Metals", ""), SizeIs(metals.size()));

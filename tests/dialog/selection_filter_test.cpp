@@ -1,6 +1,7 @@
 #include "dialog/selection_filter.h"
 
 #include "tests/dialog/dialog_fixture.h"
+#include "tests/support/linked_dialog.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -145,7 +146,7 @@ TEST_F(SelectionFilter, RaisesWithoutASelectedModeOnceTheSelectionIsEmpty) {
 
 TEST_F(SelectionFilter, LeavesOneFilterWhenSetUpTwice) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   tintora::setupSelectionFilter();
   tintora::setupSelectionFilter();
   expectMode(modes[1]);
@@ -153,7 +154,7 @@ TEST_F(SelectionFilter, LeavesOneFilterWhenSetUpTwice) {
 
 TEST_F(SelectionFilter, SkipsATextBoxThatIsMissing) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   session().pick("Base");
   tintora::actAppearanceInput = nullptr;
   tintora::setupSelectionFilter();
@@ -165,14 +166,14 @@ TEST_F(SelectionFilter, SkipsATextBoxThatIsMissing) {
 
 TEST_F(SelectionFilter, RaisesWithoutTheSelectionInput) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   tintora::selectionInput = nullptr;
   EXPECT_THROW(tintora::setupSelectionFilter(), std::exception);
 }
 
 TEST_F(SelectionFilter, RaisesWithoutTheButtonRow) {
   startDialog();
-  const LinkedGlobals globals(host());
+  const LinkedDialog dialog(host());
   tintora::filterSelectInput = nullptr;
   EXPECT_THROW(tintora::setupSelectionFilter(), std::exception);
 }

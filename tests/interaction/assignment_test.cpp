@@ -4,6 +4,7 @@
 #include "shell/globals.h"
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/linked_dialog.h"
 #include "tests/support/linked_module_path.h"
 
 namespace tests {
@@ -341,48 +342,6 @@ TEST_F(Assignment, GoesOnAfterAnyOtherKindOfEntity) {
   EXPECT_THAT(editsOfApply(), ElementsAre(materialSet("BRepBody(Base)", foam), lookCleared("BRepBody(Base)"),
                                           lookSet("BRepBody(Base)", red)));
 }
-
-/// Lets the routines that are linked into the test program work on the open dialog, which the module has built. Empties
-/// their globals at its end.
-class LinkedDialog {
- public:
-  explicit LinkedDialog(headless::Host& host) : inputs(host.ui().runner().active()->commandInputs()) {
-    tintora::appHandle = host.application();
-    tintora::uiHandle = tintora::appHandle->userInterface();
-    take("idSelection", tintora::selectionInput);
-    take("idFilterSelect", tintora::filterSelectInput);
-    take("idGroupAppearance", tintora::groupAppearanceInput);
-    take("idLibAssets", tintora::libAssetsInput);
-    take("idAppearanceList", tintora::appearanceListInput);
-    take("idGroupMaterial", tintora::groupMaterialInput);
-    take("idKeepAppearance", tintora::keepAppearanceInput);
-    take("idLibMaterials", tintora::libMaterialsInput);
-    take("idMaterialList", tintora::materialListInput);
-  }
-  LinkedDialog(const LinkedDialog&) = delete;
-  LinkedDialog& operator=(const LinkedDialog&) = delete;
-  ~LinkedDialog() {
-    tintora::appHandle = nullptr;
-    tintora::uiHandle = nullptr;
-    tintora::selectionInput = nullptr;
-    tintora::filterSelectInput = nullptr;
-    tintora::groupAppearanceInput = nullptr;
-    tintora::libAssetsInput = nullptr;
-    tintora::appearanceListInput = nullptr;
-    tintora::groupMaterialInput = nullptr;
-    tintora::keepAppearanceInput = nullptr;
-    tintora::libMaterialsInput = nullptr;
-    tintora::materialListInput = nullptr;
-  }
-
- private:
-  template <class Input>
-  void take(const char* id, adsk::core::Ptr<Input>& global) {
-    global = inputs->itemById(id);
-  }
-
-  adsk::core::Ptr<adsk::core::CommandInputs> inputs;
-};
 
 class LinkedAssignment : public MaterialAssignment {
  protected:
