@@ -1,6 +1,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/cli_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -27,11 +28,13 @@ TEST_F(CliTest, AnAppearanceIsAppliedToTheMatchingBodiesOnly) {
   EXPECT_TRUE(tree["occurrences"][0]["bodies"][0]["own"].is_null());
 }
 
-class ApplyUnderProfile : public CliTest, public ::testing::WithParamInterface<const char*> {};
+class ApplyUnderProfile : public CliTest, public WithRow<const char*> {};
 
-TEST_P(ApplyUnderProfile, GivesTheSameFile) {
+TABLE(Profiles, ApplyUnderProfile, byText, {"lenient", "documented", "hostile"});
+
+TABLE_TEST(ApplyUnderProfile, GivesTheSameFile) {
   succeed(applying({"--filter", "component", "--select", "Arm:*", "--appearance", "RAL 5015 Sky blue", "--answer",
-                    "yes", "--profile", GetParam()}));
+                    "yes", "--profile", row()}));
   const auto tree = parsed(json(saved()));
   for (const auto& arm : tree["occurrences"]) {
     EXPECT_EQ(arm["own"]["colour"], skyBlue);
@@ -42,8 +45,8 @@ TEST_P(ApplyUnderProfile, GivesTheSameFile) {
   }
 }
 
-TEST_P(ApplyUnderProfile, AMaterialKeepsTheLooksThatWereApplied) {
-  succeed(applying({"--filter", "body", "--select", "*", "--material", "Brass C26000", "--profile", GetParam()}));
+TABLE_TEST(ApplyUnderProfile, AMaterialKeepsTheLooksThatWereApplied) {
+  succeed(applying({"--filter", "body", "--select", "*", "--material", "Brass C26000", "--profile", row()}));
   const auto tree = parsed(json(saved()));
   EXPECT_EQ(tree["bodies"][0]["material"]["name"], "Brass C26000");
   EXPECT_EQ(tree["bodies"][0]["own"]["colour"], "#FF0000");
@@ -51,27 +54,24 @@ TEST_P(ApplyUnderProfile, AMaterialKeepsTheLooksThatWereApplied) {
   EXPECT_EQ(tree["occurrences"][0]["occurrences"][0]["bodies"][0]["faces"][1]["shows"]["colour"], "#0000FF");
 }
 
-TEST_P(ApplyUnderProfile, AMaterialSetsTheAppearanceWhenAsked) {
+TABLE_TEST(ApplyUnderProfile, AMaterialSetsTheAppearanceWhenAsked) {
   succeed(applying({"--filter", "body", "--select", "Base", "--material", "Brass C26000",
-                    "--set-appearance-by-material", "--profile", GetParam()}));
+                    "--set-appearance-by-material", "--profile", row()}));
   const auto base = parsed(json(saved()))["bodies"][0];
   EXPECT_TRUE(base["own"].is_null());
   EXPECT_EQ(base["shows"]["name"], "Brass - Polished");
   EXPECT_EQ(base["material"]["density"], 8530);
 }
 
-TEST_P(ApplyUnderProfile, AnAppearanceGoesOnTopOfAMaterialThatSetsTheAppearance) {
+TABLE_TEST(ApplyUnderProfile, AnAppearanceGoesOnTopOfAMaterialThatSetsTheAppearance) {
   EXPECT_EQ(
       succeed(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--material",
-                        "Brass C26000", "--set-appearance-by-material", "--profile", GetParam()})),
+                        "Brass C26000", "--set-appearance-by-material", "--profile", row()})),
       "Applied appearance \"RAL 3000 Flame red\" and material \"Brass C26000\" to 1 body\nSaved " + saved() + "\n");
   const auto base = parsed(json(saved()))["bodies"][0];
   EXPECT_EQ(base["own"]["colour"], flameRed);
   EXPECT_EQ(base["material"]["name"], "Brass C26000");
 }
-
-INSTANTIATE_TEST_SUITE_P(Profiles, ApplyUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
-                         [](const auto& info) { return std::string(info.param); });
 
 TEST_F(CliTest, AnAppearanceThatWasPutBackAfterAMaterialIsPointedOut) {
   EXPECT_THAT(succeed(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red",
@@ -102,24 +102,18 @@ struct Answer {
   const char* faceColour;
 };
 
-std::ostream& operator<<(std::ostream& stream, const Answer& answer) {
-  return stream << answer.name;
-}
+class AnsweredQuestion : public CliTest, public WithRow<Answer> {};
 
-class AnsweredQuestion : public CliTest, public ::testing::WithParamInterface<Answer> {};
+TABLE(Answers, AnsweredQuestion, byName, {{"Yes", "yes", "Yes", flameRed}, {"No", "no", "No", "#0000FF"}});
 
-TEST_P(AnsweredQuestion, DecidesAboutTheFaces) {
+TABLE_TEST(AnsweredQuestion, DecidesAboutTheFaces) {
   EXPECT_THAT(succeed(applying({"--filter", "body", "--select", "Arm:1+*", "--appearance", "RAL 3000 Flame red",
-                                "--answer", GetParam().word})),
-              StartsWith(std::string("Asked: \"Remove appearances applied to faces?\" ") + GetParam().shown));
+                                "--answer", row().word})),
+              StartsWith(std::string("Asked: \"Remove appearances applied to faces?\" ") + row().shown));
   const auto shaft = parsed(json(saved()))["occurrences"][0]["occurrences"][0]["bodies"][0];
   EXPECT_EQ(shaft["own"]["colour"], flameRed);
-  EXPECT_EQ(shaft["faces"][1]["shows"]["colour"], GetParam().faceColour);
+  EXPECT_EQ(shaft["faces"][1]["shows"]["colour"], row().faceColour);
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, AnsweredQuestion,
-                         ::testing::Values(Answer{"Yes", "yes", "Yes", flameRed}, Answer{"No", "no", "No", "#0000FF"}),
-                         [](const auto& info) { return info.param.name; });
 
 TEST_F(CliTest, AQuestionThatNobodyAnswersIsAFailureAndNothingIsSaved) {
   const Outcome outcome = runProgram(
@@ -135,19 +129,6 @@ struct Missing {
   std::vector<std::string> arguments;
   const char* message;
 };
-
-std::ostream& operator<<(std::ostream& stream, const Missing& missing) {
-  return stream << missing.name;
-}
-
-class MissingThing : public CliTest, public ::testing::WithParamInterface<Missing> {};
-
-TEST_P(MissingThing, IsAFailureThatNamesTheFileAndWhatIsNear) {
-  std::vector<std::string> arguments = applying(GetParam().arguments);
-  arguments.emplace_back("--quiet");
-  EXPECT_THAT(fail(1, arguments), AllOf(HasSubstr(rig() + ": "), HasSubstr(GetParam().message)));
-  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
-}
 
 const std::vector<Missing> missingThings = {
     {"Appearance",
@@ -176,8 +157,16 @@ const std::vector<Missing> missingThings = {
      "no body of Rig matches \"Leg:*\""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Table, MissingThing, ::testing::ValuesIn(missingThings),
-                         [](const auto& info) { return info.param.name; });
+class MissingThing : public CliTest, public WithRow<Missing> {};
+
+TABLE(Table, MissingThing, byName, missingThings);
+
+TABLE_TEST(MissingThing, IsAFailureThatNamesTheFileAndWhatIsNear) {
+  std::vector<std::string> arguments = applying(row().arguments);
+  arguments.emplace_back("--quiet");
+  EXPECT_THAT(fail(1, arguments), AllOf(HasSubstr(rig() + ": "), HasSubstr(row().message)));
+  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
+}
 
 TEST_F(CliTest, AFolderThatIsNotThereIsAFailureThatNamesIt) {
   const std::string target = at(assemblyName("no/such/folder/out"));

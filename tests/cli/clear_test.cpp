@@ -1,6 +1,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/cli_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -9,17 +10,16 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-class ClearUnderProfile : public CliTest, public ::testing::WithParamInterface<const char*> {};
+class ClearUnderProfile : public CliTest, public WithRow<const char*> {};
 
-TEST_P(ClearUnderProfile, RemovesTheAppearancesOfBodiesAndTheirFaces) {
+TABLE(Profiles, ClearUnderProfile, byText, {"lenient", "documented", "hostile"});
+
+TABLE_TEST(ClearUnderProfile, RemovesTheAppearancesOfBodiesAndTheirFaces) {
   EXPECT_EQ(succeed({"clear", rig(), "--filter", "body", "--select", "*", "--save", at(assemblyName("plain")),
-                     "--profile", GetParam()}),
+                     "--profile", row()}),
             "Removed the applied appearances of 5 bodies and all below\nSaved " + at(assemblyName("plain")) + "\n");
   EXPECT_THAT(json(at(assemblyName("plain"))), ::testing::Not(HasSubstr("Opaque")));
 }
-
-INSTANTIATE_TEST_SUITE_P(Profiles, ClearUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
-                         [](const auto& info) { return std::string(info.param); });
 
 TEST_F(CliTest, ClearingAComponentLeavesTheOthers) {
   succeed({"clear", rig(), "--filter", "component", "--select", "Arm:1", "--save", at(assemblyName("plain"))});

@@ -1,4 +1,5 @@
 #include "tests/cli/cli_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -31,22 +32,6 @@ struct Misuse {
   std::vector<std::string> arguments;
   const char* message;
 };
-
-std::ostream& operator<<(std::ostream& stream, const Misuse& misuse) {
-  return stream << misuse.name;
-}
-
-class CommandLineMisuse : public CliTest, public ::testing::WithParamInterface<Misuse> {};
-
-// RIG stands for the assembly, OUT for a file that does not exist yet.
-TEST_P(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
-  std::vector<std::string> arguments = GetParam().arguments;
-  for (std::string& argument : arguments) {
-    argument = argument == "RIG" ? rig() : argument == "OUT" ? saved() : argument;
-  }
-  EXPECT_THAT(fail(2, arguments), HasSubstr(GetParam().message));
-  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
-}
 
 const std::vector<Misuse> misuses = {
     {"NoCommand", {}, "subcommand is required"},
@@ -102,8 +87,19 @@ const std::vector<Misuse> misuses = {
     {"OpenListWithoutPicture", {"dialog", "RIG", "--open-list", "material"}, "requires --picture"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Table, CommandLineMisuse, ::testing::ValuesIn(misuses),
-                         [](const auto& info) { return info.param.name; });
+class CommandLineMisuse : public CliTest, public WithRow<Misuse> {};
+
+TABLE(Table, CommandLineMisuse, byName, misuses);
+
+// RIG stands for the assembly, OUT for a file that does not exist yet.
+TABLE_TEST(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
+  std::vector<std::string> arguments = row().arguments;
+  for (std::string& argument : arguments) {
+    argument = argument == "RIG" ? rig() : argument == "OUT" ? saved() : argument;
+  }
+  EXPECT_THAT(fail(2, arguments), HasSubstr(row().message));
+  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
+}
 
 TEST_F(CliTest, AFileThatIsNotThereIsAFailureThatNamesIt) {
   const std::string file = at(assemblyName("nix"));

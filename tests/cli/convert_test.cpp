@@ -5,6 +5,7 @@
 #include "tests/cli/cli_fixture.h"
 #include "tests/cli/demo_steps.h"
 #include "tests/step/step_files.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -13,25 +14,25 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-class ConvertedAssembly : public CliTest, public ::testing::WithParamInterface<const char*> {};
+class ConvertedAssembly : public CliTest, public WithRow<const char*> {};
 
-TEST_P(ConvertedAssembly, HasTheSameTree) {
-  WITH_STEP_FILE(file, GetParam());
+TABLE(Files, ConvertedAssembly,
+      [](const auto& row) {
+        std::string name = row;
+        std::replace_if(
+            name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+        return name;
+      },
+      {"as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp", "motor-driver-board-v3.5.step",
+       "red_cube_blue_cylinder.step"});
+
+TABLE_TEST(ConvertedAssembly, HasTheSameTree) {
+  WITH_STEP_FILE(file, row());
   succeed({"convert", file.string(), at("out.design.json")});
   const std::string tree = json(file.string());
   EXPECT_THAT(tree, HasSubstr("\"occurrences\""));
   EXPECT_TRUE(json(at("out.design.json")) == tree) << "the trees of " << file << " and of the design file differ";
 }
-
-INSTANTIATE_TEST_SUITE_P(Files, ConvertedAssembly,
-                         ::testing::Values("as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp",
-                                           "motor-driver-board-v3.5.step", "red_cube_blue_cylinder.step"),
-                         [](const auto& info) {
-                           std::string name = info.param;
-                           std::replace_if(
-                               name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-                           return name;
-                         });
 
 TEST_F(CliTest, ConvertKeepsTheTreeOfASmallAssembly) {
   EXPECT_EQ(succeed({"convert", rig(), at("rig.design.json")}), "Saved " + at("rig.design.json") + "\n");

@@ -1,25 +1,25 @@
 #include "tests/cli/cli_fixture.h"
 #include "tests/cli/demo_steps.h"
 #include "tests/step/step_files.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
 
 using ::testing::HasSubstr;
 
-class DemoUnderProfile : public CliTest, public ::testing::WithParamInterface<const char*> {};
+class DemoUnderProfile : public CliTest, public WithRow<const char*> {};
 
-TEST_P(DemoUnderProfile, ShowsEveryStep) {
+TABLE(Profiles, DemoUnderProfile, byText, {"lenient", "documented", "hostile"});
+
+TABLE_TEST(DemoUnderProfile, ShowsEveryStep) {
   WITH_STEP_FILE(file, "as1-tu-203.stp");
   const std::string shown = succeed({"demo", file.string(), "--save", at("demo.step"), "--glb", at("demo.glb"),
-                                     "--addin", copyAddIn(), "--profile", GetParam()});
+                                     "--addin", copyAddIn(), "--profile", row()});
   expectEveryStep(shown);
   EXPECT_TRUE(exists("demo.step"));
   EXPECT_TRUE(exists("demo.glb"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Profiles, DemoUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
-                         [](const auto& info) { return std::string(info.param); });
 
 TEST_F(CliTest, TheDemoNeedsItsAssembly) {
   const Outcome outcome = runProgram({"demo", rig(), "--save", at("demo.step")});

@@ -8,6 +8,7 @@
 
 #include "host/cli/picture_files.h"
 #include "tests/cli/dialog_views.h"
+#include "tests/support/tables.h"
 #include "tests/support/temporary_folder.h"
 
 namespace headless::cli {
@@ -51,29 +52,28 @@ double heightOf(const std::string& picture) {
   return std::stod(found[1]);
 }
 
-class PictureOfKind : public ::testing::TestWithParam<InputKind> {};
+class PictureOfKind : public ::testing::Test, public tests::WithRow<InputKind> {};
 
-TEST_P(PictureOfKind, ShowsTheLabel) {
-  EXPECT_THAT(pictureOf(inputView(GetParam(), "Some label")), HasSubstr(">Some label</text>"));
+TABLE(Kinds, PictureOfKind, tests::byNumber,
+      {InputKind::Group, InputKind::Selection, InputKind::ButtonRow, InputKind::TextBox, InputKind::DropDown,
+       InputKind::Text, InputKind::CheckBox, InputKind::Button});
+
+TABLE_TEST(PictureOfKind, ShowsTheLabel) {
+  EXPECT_THAT(pictureOf(inputView(row(), "Some label")), HasSubstr(">Some label</text>"));
 }
 
-TEST_P(PictureOfKind, MarksOnlyWhatIsDisabled) {
-  InputView view = inputView(GetParam(), "Some label");
+TABLE_TEST(PictureOfKind, MarksOnlyWhatIsDisabled) {
+  InputView view = inputView(row(), "Some label");
   EXPECT_THAT(pictureOf(view), Not(HasSubstr("aria-disabled")));
   view.isEnabled = false;
   EXPECT_THAT(pictureOf(view), HasSubstr("aria-disabled=\"true\"><title>Some label</title>"));
 }
 
-TEST_P(PictureOfKind, LeavesOutWhatIsHidden) {
-  InputView view = inputView(GetParam(), "Some label");
+TABLE_TEST(PictureOfKind, LeavesOutWhatIsHidden) {
+  InputView view = inputView(row(), "Some label");
   view.isVisible = false;
   EXPECT_THAT(pictureOf(view), Not(HasSubstr("Some label")));
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, PictureOfKind,
-                         ::testing::Values(InputKind::Group, InputKind::Selection, InputKind::ButtonRow,
-                                           InputKind::TextBox, InputKind::DropDown, InputKind::Text,
-                                           InputKind::CheckBox, InputKind::Button));
 
 TEST(DialogPicture, ShowsTitleAndButtons) {
   DialogView dialog = dialogWith(groupView({}));

@@ -1,4 +1,5 @@
 #include "tests/cli/cli_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -45,15 +46,14 @@ TEST_F(CliTest, DialogWithSomethingPickedSaysWhatItShows) {
   EXPECT_THAT(dialog, Not(HasSubstr("greyed out")));
 }
 
-class DialogUnderProfile : public CliTest, public ::testing::WithParamInterface<const char*> {};
+class DialogUnderProfile : public CliTest, public WithRow<const char*> {};
 
-TEST_P(DialogUnderProfile, ShowsThePickedObjects) {
-  EXPECT_THAT(succeed({"dialog", rig(), "--filter", "body", "--select", "*", "--profile", GetParam()}),
+TABLE(Profiles, DialogUnderProfile, byText, {"lenient", "documented", "hostile"});
+
+TABLE_TEST(DialogUnderProfile, ShowsThePickedObjects) {
+  EXPECT_THAT(succeed({"dialog", rig(), "--filter", "body", "--select", "*", "--profile", row()}),
               AllOf(HasSubstr("5 picked"), HasSubstr("and 1 more"), HasSubstr("Various")));
 }
-
-INSTANTIATE_TEST_SUITE_P(Profiles, DialogUnderProfile, ::testing::Values("lenient", "documented", "hostile"),
-                         [](const auto& info) { return std::string(info.param); });
 
 TEST_F(CliTest, DialogIsFilledInAsAskedFor) {
   const std::string dialog = succeed({"dialog", rig(), "--close", "appearance", "--material-filter", "stainless",

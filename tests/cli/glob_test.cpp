@@ -1,4 +1,5 @@
 #include "host/cli/glob.h"
+#include "tests/support/tables.h"
 
 #include <gtest/gtest.h>
 
@@ -14,30 +15,49 @@ struct Case {
   bool isMatch;
 };
 
-std::ostream& operator<<(std::ostream& stream, const Case& each) {
-  return stream << each.pattern << " and " << each.text;
+class Glob : public ::testing::Test, public tests::WithRow<Case> {};
+
+TABLE(Patterns, Glob, tests::byNumber,
+      {{"", "", true},
+       {"", "a", false},
+       {"abc", "abc", true},
+       {"abc", "abcd", false},
+       {"abcd", "abc", false},
+       {"*", "", true},
+       {"*", "a/b+c", true},
+       {"a*c", "abbc", true},
+       {"a*c", "abbcd", false},
+       {"*ab*ab", "abcabab", true},
+       {"*ab*ab*", "xabx", false},
+       {"a**b", "ab", true},
+       {"?", "", false},
+       {"a?c", "abc", true},
+       {"a?c", "ac", false},
+       {"M?ller", "Müller", true},
+       {"M??ller", "Müller", false},
+       {"[ab]c", "bc", true},
+       {"[ab]c", "cc", false},
+       {"[a-c]", "b", true},
+       {"[a-c]", "d", false},
+       {"[a-]", "-", true},
+       {"[äö]", "ö", true},
+       {"[!ab]", "c", true},
+       {"[^ab]", "a", false},
+       {"[]a]", "]", true},
+       {"[!]a]", "]", false},
+       {"[\\]x]", "]", true},
+       {"[ab", "[ab", true},
+       {"[", "[", true},
+       {"[ab", "a", false},
+       {"\\*", "*", true},
+       {"\\*", "a", false},
+       {"\\[a]", "[a]", true},
+       {"a\\", "a\\", true},
+       {"[a]*[b]", "axxb", true}});
+
+TABLE_TEST(Glob, MatchesTheWholeText) {
+  EXPECT_EQ(matchesGlob(row().pattern, row().text), row().isMatch);
 }
-
-class Glob : public ::testing::TestWithParam<Case> {};
-
-TEST_P(Glob, MatchesTheWholeText) {
-  EXPECT_EQ(matchesGlob(GetParam().pattern, GetParam().text), GetParam().isMatch);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Patterns, Glob,
-    ::testing::Values(Case{"", "", true}, Case{"", "a", false}, Case{"abc", "abc", true}, Case{"abc", "abcd", false},
-                      Case{"abcd", "abc", false}, Case{"*", "", true}, Case{"*", "a/b+c", true},
-                      Case{"a*c", "abbc", true}, Case{"a*c", "abbcd", false}, Case{"*ab*ab", "abcabab", true},
-                      Case{"*ab*ab*", "xabx", false}, Case{"a**b", "ab", true}, Case{"?", "", false},
-                      Case{"a?c", "abc", true}, Case{"a?c", "ac", false}, Case{"M?ller", "Müller", true},
-                      Case{"M??ller", "Müller", false}, Case{"[ab]c", "bc", true}, Case{"[ab]c", "cc", false},
-                      Case{"[a-c]", "b", true}, Case{"[a-c]", "d", false}, Case{"[a-]", "-", true},
-                      Case{"[äö]", "ö", true}, Case{"[!ab]", "c", true}, Case{"[^ab]", "a", false},
-                      Case{"[]a]", "]", true}, Case{"[!]a]", "]", false}, Case{"[\\]x]", "]", true},
-                      Case{"[ab", "[ab", true}, Case{"[", "[", true}, Case{"[ab", "a", false}, Case{"\\*", "*", true},
-                      Case{"\\*", "a", false}, Case{"\\[a]", "[a]", true}, Case{"a\\", "a\\", true},
-                      Case{"[a]*[b]", "axxb", true}));
 
 TEST(GlobTime, ManyStarsTakeNoLongTime) {
   const std::string text(5000, 'a');

@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "tests/cli/cli_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -55,11 +56,16 @@ class FileSizeLimit {
   void (*atLimit)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
-class TraceOnAFullDisk : public CliTest, public ::testing::WithParamInterface<std::vector<std::string>> {};
+class TraceOnAFullDisk : public CliTest, public WithRow<std::vector<std::string>> {};
+
+TABLE(Commands, TraceOnAFullDisk, [](const auto& row) { return row.front(); },
+      {{"dialog"},
+       {"apply", "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red"},
+       {"clear", "--filter", "body", "--select", "*"}});
 
 // The add-in runs in its own folder, as there is no room for a copy.
-TEST_P(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
-  std::vector<std::string> arguments = GetParam();
+TABLE_TEST(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
+  std::vector<std::string> arguments = row();
   arguments.insert(arguments.begin() + 1, rig());
   arguments.insert(arguments.end(), {"--addin", copyAddIn(), "--keep-settings", "--trace", at("calls.txt"), "--quiet"});
   if (arguments.front() != "dialog") {
@@ -71,13 +77,6 @@ TEST_P(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
   EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + at("calls.txt") + "\": the disk may be full.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Commands, TraceOnAFullDisk,
-                         ::testing::Values(std::vector<std::string>{"dialog"},
-                                           std::vector<std::string>{"apply", "--filter", "body", "--select", "Base",
-                                                                    "--appearance", "RAL 3000 Flame red"},
-                                           std::vector<std::string>{"clear", "--filter", "body", "--select", "*"}),
-                         [](const auto& info) { return info.param.front(); });
 
 }  // namespace
 }  // namespace tests

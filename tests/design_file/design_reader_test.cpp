@@ -5,6 +5,7 @@
 #include "host/design_file/design_file.h"
 #include "host/model/resolution.h"
 #include "tests/support/designs.h"
+#include "tests/support/tables.h"
 #include "tests/support/temporary_folder.h"
 
 namespace headless::design_file {
@@ -105,23 +106,6 @@ struct Mistake {
   const char* message;
 };
 
-std::ostream& operator<<(std::ostream& stream, const Mistake& mistake) {
-  return stream << mistake.name;
-}
-
-class DesignReaderMistake : public ::testing::TestWithParam<Mistake> {};
-
-TEST_P(DesignReaderMistake, IsToldWithItsPlaceAndWhatToDo) {
-  try {
-    parse(GetParam().text, "pump.design.json");
-    FAIL() << "the file was read";
-  } catch (const files::FormatError& error) {
-    EXPECT_EQ(error.where, GetParam().where);
-    EXPECT_THAT(error.what(), AllOf(HasSubstr("pump.design.json"), HasSubstr(GetParam().message)));
-    EXPECT_FALSE(error.advice.empty());
-  }
-}
-
 /// Components "Pump", the root, with these members, and "Bolt".
 std::string pump(const std::string& members, const std::string& others = "") {
   return designText("\"components\": [{\"name\": \"Pump\"" + (members.empty() ? "" : ", " + members) +
@@ -187,8 +171,20 @@ const std::vector<Mistake> mistakes = {
      "has no \"appearance\""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Mistakes, DesignReaderMistake, ::testing::ValuesIn(mistakes),
-                         [](const auto& info) { return std::string(info.param.name); });
+class DesignReaderMistake : public ::testing::Test, public tests::WithRow<Mistake> {};
+
+TABLE(Mistakes, DesignReaderMistake, tests::byName, mistakes);
+
+TABLE_TEST(DesignReaderMistake, IsToldWithItsPlaceAndWhatToDo) {
+  try {
+    parse(row().text, "pump.design.json");
+    FAIL() << "the file was read";
+  } catch (const files::FormatError& error) {
+    EXPECT_EQ(error.where, row().where);
+    EXPECT_THAT(error.what(), AllOf(HasSubstr("pump.design.json"), HasSubstr(row().message)));
+    EXPECT_FALSE(error.advice.empty());
+  }
+}
 
 /// A design with 10 instances on each of `levels` levels: 10 to that power at the bottom.
 std::string explodingDesign(int levels) {

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "tests/dialog/dialog_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -42,11 +43,14 @@ const std::vector<ExpectedInput> expectedInputs = {
     {"idGroupMaterial", InputKind::Text, "idFilterMaterial", "Filter"},
     {"", InputKind::Button, "idBtnApply", "", "resources/BtnApply", false}};
 
-class DialogInput : public DialogTest, public ::testing::WithParamInterface<std::size_t> {};
+class DialogInput : public DialogTest, public WithRow<std::size_t> {};
 
-TEST_P(DialogInput, IsOfItsKindInItsGroupWithItsLabel) {
+TABLE(
+    All, DialogInput, [](const auto& row) { return std::string(expectedInputs[row].id); }, numbersBelow(16));
+
+TABLE_TEST(DialogInput, IsOfItsKindInItsGroupWithItsLabel) {
   startDialog();
-  const ExpectedInput& expected = expectedInputs[GetParam()];
+  const ExpectedInput& expected = expectedInputs[row()];
   const InputView input = session().input(expected.id);
   EXPECT_EQ(input.kind, expected.kind);
   EXPECT_EQ(input.label, expected.label);
@@ -57,20 +61,19 @@ TEST_P(DialogInput, IsOfItsKindInItsGroupWithItsLabel) {
   EXPECT_EQ(group == nullptr ? "" : group->inputId(), expected.group);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DialogInput, ::testing::Range<std::size_t>(0, 16),
-                         [](const auto& info) { return std::string(expectedInputs[info.param].id); });
-
-class CommandDialogUnderProfile : public DialogTest, public ::testing::WithParamInterface<std::string> {
+class CommandDialogUnderProfile : public DialogTest, public WithRow<std::string> {
  protected:
-  Profile profile() const { return headless::profileNamed(GetParam()); }
+  Profile profile() const { return headless::profileNamed(row()); }
 };
 
-TEST_P(CommandDialogUnderProfile, ShowsAllInputsInOrder) {
+TABLE_OF_PROFILES(CommandDialogUnderProfile);
+
+TABLE_TEST(CommandDialogUnderProfile, ShowsAllInputsInOrder) {
   startDialog(profile());
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(16)));
 }
 
-TEST_P(CommandDialogUnderProfile, OpensWithBodyFilterAndFirstItems) {
+TABLE_TEST(CommandDialogUnderProfile, OpensWithBodyFilterAndFirstItems) {
   startDialog(profile());
   EXPECT_EQ(shown("idFilterSelect"), "Body");
   EXPECT_EQ(shown("idLibAssets"), "RAL_COLORS");
@@ -86,7 +89,7 @@ TEST_P(CommandDialogUnderProfile, OpensWithBodyFilterAndFirstItems) {
   EXPECT_FALSE(isEnabled("idBtnApply"));
 }
 
-TEST_P(CommandDialogUnderProfile, OpensWithBothAssignmentsExpandedAndTicked) {
+TABLE_TEST(CommandDialogUnderProfile, OpensWithBothAssignmentsExpandedAndTicked) {
   startDialog(profile());
   for (const char* id : {"idGroupAppearance", "idGroupMaterial"}) {
     const InputView group = session().input(id);
@@ -98,7 +101,7 @@ TEST_P(CommandDialogUnderProfile, OpensWithBothAssignmentsExpandedAndTicked) {
   EXPECT_FALSE(session().input("idGroupSelect").hasTick);
 }
 
-TEST_P(CommandDialogUnderProfile, HasOneButtonCalledCloseAndItsSize) {
+TABLE_TEST(CommandDialogUnderProfile, HasOneButtonCalledCloseAndItsSize) {
   startDialog(profile());
   const headless::DialogView dialog = session().dialog();
   EXPECT_EQ(dialog.title, "Tintora");
@@ -109,14 +112,14 @@ TEST_P(CommandDialogUnderProfile, HasOneButtonCalledCloseAndItsSize) {
   EXPECT_EQ(dialog.height, 400);
 }
 
-TEST_P(CommandDialogUnderProfile, IsTheSameFromTheToolsTab) {
+TABLE_TEST(CommandDialogUnderProfile, IsTheSameFromTheToolsTab) {
   start(profile());
   session().press("idAssetsMatMngOnTools");
   EXPECT_EQ(session().dialog().commandId, "idAssetsMatMngOnTools");
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(16)));
 }
 
-TEST_P(CommandDialogUnderProfile, OpensAndClosesWithoutTrace) {
+TABLE_TEST(CommandDialogUnderProfile, OpensAndClosesWithoutTrace) {
   startDialog(profile());
   session().pressCancel();
   EXPECT_FALSE(session().isDialogOpen());
@@ -124,7 +127,7 @@ TEST_P(CommandDialogUnderProfile, OpensAndClosesWithoutTrace) {
   EXPECT_THROW(session().undo(), headless::UserError);
 }
 
-TEST_P(CommandDialogUnderProfile, RestoresTheSavedChoicesBeforeItIsShown) {
+TABLE_TEST(CommandDialogUnderProfile, RestoresTheSavedChoicesBeforeItIsShown) {
   addMaterialLibrary("Stones.adsklib", "Stones", {{"Basalt"}, {"Granite"}});
   folder.write(settingsFile(), "2\n0\nRAL_COLORS\nRAL 5015 Sky blue\n1\nStones\nGranite\n0\n1");
   startDialog(profile());
@@ -134,8 +137,6 @@ TEST_P(CommandDialogUnderProfile, RestoresTheSavedChoicesBeforeItIsShown) {
   EXPECT_EQ(shown("idAppearanceList"), "RAL 5015 Sky blue");
   EXPECT_EQ(shown("idMaterialList"), "Granite");
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(CommandDialogUnderProfile);
 
 using CommandDialog = DialogTest;
 
@@ -329,20 +330,20 @@ TEST_F(CommandDialog, LeavesTheListsOfEmptyLibrariesWithoutAnyItem) {
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(16)));
 }
 
-class NoColourLibrary : public CommandDialog, public ::testing::WithParamInterface<const char*> {};
+class NoColourLibrary : public CommandDialog, public WithRow<const char*> {};
 
-TEST_P(NoColourLibrary, EndsTheDialogAfterTheAppearanceList) {
-  addAppearanceLibrary("RAL_COLORS.adsklib", GetParam(), ralNames);
+TABLE(Names, NoColourLibrary, byNumber, {"Woods", "ral_colors", "RAL COLORS", "RAL_COLOR"});
+
+TABLE_TEST(NoColourLibrary, EndsTheDialogAfterTheAppearanceList) {
+  addAppearanceLibrary("RAL_COLORS.adsklib", row(), ralNames);
   start();
   pressMainButton();
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::exception:")));
   EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(7)));
-  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre(GetParam()));
+  EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre(row()));
   EXPECT_EQ(shown("idLibAssets"), "");
   EXPECT_THAT(itemsOf("idAppearanceList"), IsEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, NoColourLibrary, ::testing::Values("Woods", "ral_colors", "RAL COLORS", "RAL_COLOR"));
 
 TEST_F(CommandDialog, EndsAfterTheAppearanceListWithoutAnyAppearanceLibrary) {
   removeLibraries("Appearances");

@@ -4,6 +4,7 @@
 
 #include "tests/dialog/dialog_fixture.h"
 #include "tests/support/linked_dialog.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -63,58 +64,58 @@ const std::vector<std::string> filteredNames = {"RAL 3000 Flame red",
                                                 "cru"};
 
 struct FilterCase {
-  const char* description;
+  const char* name;
   const char* filter;
   std::vector<std::string> kept;
 };
 
-class ListFilter : public ItemLists, public ::testing::WithParamInterface<FilterCase> {};
+class ListFilter : public ItemLists, public WithRow<FilterCase> {};
 
-TEST_P(ListFilter, KeepsTheNamesThatContainItInTheLibrarysOrder) {
+TABLE(Texts, ListFilter, byName,
+      {{"LowerCase", "ral 30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink"}},
+       {"UpperCase", "RAL 30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink"}},
+       {"Anywhere", "30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink", "Bor30"}},
+       {"AtTheEnd", "RED", {"RAL 3000 Flame red"}},
+       {"TrailingBlank", "3000 ", {"RAL 3000 Flame red"}},
+       {"TrailingBlankThatNothingHas", "ral 30 ", {}},
+       {"LeadingBlank", " light", {"ral 3015 light pink"}},
+       {"OnlyABlank",
+        " ",
+        {"RAL 3000 Flame red", "RAL 1000 Green beige", "RAL 30", "ral 3015 light pink",
+         "RAL 9999 \xC3\x89"
+         "cru",
+         "RAL 9998 \xC3\xA9"
+         "cru"}},
+       {"UpperCaseAccent",
+        "\xC3\x89",
+        {"RAL 9999 \xC3\x89"
+         "cru"}},
+       {"LowerCaseAccent",
+        "\xC3\xA9"
+        "CRU",
+        {"RAL 9998 \xC3\xA9"
+         "cru"}},
+       {"NoPattern", ".*", {}},
+       {"WholeName", "bor30", {"Bor30"}},
+       {"LongerThanAnyName", "ral 3000 flame red and more", {}}});
+
+TABLE_TEST(ListFilter, KeepsTheNamesThatContainItInTheLibrarysOrder) {
   addNames(filteredNames);
   startDialog();
-  const std::vector<std::string> expected =
-      GetParam().kept.empty() ? std::vector<std::string>{"nothing found"} : GetParam().kept;
+  const std::vector<std::string> expected = row().kept.empty() ? std::vector<std::string>{"nothing found"} : row().kept;
   for (const ListInputs& inputs : {appearanceInputs, materialInputs}) {
-    session().type(inputs.filter, GetParam().filter);
+    session().type(inputs.filter, row().filter);
     EXPECT_THAT(itemsOf(inputs.list), ElementsAreArray(expected));
     EXPECT_EQ(shown(inputs.list), expected.front());
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, ListFilter,
-    ::testing::Values(FilterCase{"LowerCase", "ral 30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink"}},
-                      FilterCase{"UpperCase", "RAL 30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink"}},
-                      FilterCase{"Anywhere", "30", {"RAL 3000 Flame red", "RAL 30", "ral 3015 light pink", "Bor30"}},
-                      FilterCase{"AtTheEnd", "RED", {"RAL 3000 Flame red"}},
-                      FilterCase{"TrailingBlank", "3000 ", {"RAL 3000 Flame red"}},
-                      FilterCase{"TrailingBlankThatNothingHas", "ral 30 ", {}},
-                      FilterCase{"LeadingBlank", " light", {"ral 3015 light pink"}},
-                      FilterCase{"OnlyABlank",
-                                 " ",
-                                 {"RAL 3000 Flame red", "RAL 1000 Green beige", "RAL 30", "ral 3015 light pink",
-                                  "RAL 9999 \xC3\x89"
-                                  "cru",
-                                  "RAL 9998 \xC3\xA9"
-                                  "cru"}},
-                      FilterCase{"UpperCaseAccent",
-                                 "\xC3\x89",
-                                 {"RAL 9999 \xC3\x89"
-                                  "cru"}},
-                      FilterCase{"LowerCaseAccent",
-                                 "\xC3\xA9"
-                                 "CRU",
-                                 {"RAL 9998 \xC3\xA9"
-                                  "cru"}},
-                      FilterCase{"NoPattern", ".*", {}}, FilterCase{"WholeName", "bor30", {"Bor30"}},
-                      FilterCase{"LongerThanAnyName", "ral 3000 flame red and more", {}}),
-    [](const auto& info) { return std::string(info.param.description); });
+class ItemListsUnderProfile : public ItemLists, public WithRow<std::string> {};
 
-class ItemListsUnderProfile : public ItemLists, public ::testing::WithParamInterface<std::string> {};
+TABLE_OF_PROFILES(ItemListsUnderProfile);
 
-TEST_P(ItemListsUnderProfile, FollowTheFilterKeyByKeyAndComeBackWhenItIsEmptied) {
-  startDialog(headless::profileNamed(GetParam()));
+TABLE_TEST(ItemListsUnderProfile, FollowTheFilterKeyByKeyAndComeBackWhenItIsEmptied) {
+  startDialog(headless::profileNamed(row()));
   const std::vector<std::string> all = itemsOf("idAppearanceList");
   session().type("idFilterAppearance", "s");
   EXPECT_THAT(itemsOf("idAppearanceList"), ElementsAre("RAL 3001 Signal red", "RAL 5015 Sky blue"));
@@ -127,9 +128,9 @@ TEST_P(ItemListsUnderProfile, FollowTheFilterKeyByKeyAndComeBackWhenItIsEmptied)
   EXPECT_EQ(shown("idAppearanceList"), all.front());
 }
 
-TEST_P(ItemListsUnderProfile, FollowTheLibraryAndKeepTheFilter) {
+TABLE_TEST(ItemListsUnderProfile, FollowTheLibraryAndKeepTheFilter) {
   addMaterialLibrary("Stones.adsklib", "Stones", {{"Basalt"}, {"Steel grey granite"}});
-  startDialog(headless::profileNamed(GetParam()));
+  startDialog(headless::profileNamed(row()));
   session().choose("idLibMaterials", "Metals");
   session().type("idFilterMaterial", "steel");
   EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Steel 37"));
@@ -138,8 +139,6 @@ TEST_P(ItemListsUnderProfile, FollowTheLibraryAndKeepTheFilter) {
   EXPECT_EQ(shown("idMaterialList"), "Steel grey granite");
   EXPECT_THAT(itemsOf("idAppearanceList"), ElementsAreArray(ralNames));
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(ItemListsUnderProfile);
 
 TEST_F(ItemLists, ForgetTheChoiceWhenTheyAreRefilled) {
   startDialog();
@@ -197,31 +196,30 @@ TEST_F(ItemLists, GetNothingFoundAsOneSelectedItem) {
 }
 
 struct KeyCase {
-  const char* description;
   const char* name;
+  const char* itemName;
   const char* key;
 };
 
-class IconKey : public ItemLists, public ::testing::WithParamInterface<KeyCase> {};
+class IconKey : public ItemLists, public WithRow<KeyCase> {};
 
-TEST_P(IconKey, NamesTheFolderOfTheIcon) {
-  addNames({GetParam().name});
-  folder.addColourIcon(GetParam().key);
+TABLE(Names, IconKey, byName,
+      {{"Colour", "RAL 9005 Jet black", "RAL9005"},
+       {"AnyFourthCharacter", "RAL-1000", "RAL1000"},
+       {"FourthDigit", "RAL10005", "RAL0005"},
+       {"BlankInside", "RAL 10 05", "RAL10 0"},
+       {"Short", "RAL 12", "RAL12"},
+       {"FourCharacters", "Zinc", "Zin"},
+       {"FiveCharacters", "Steel", "Stel"}});
+
+TABLE_TEST(IconKey, NamesTheFolderOfTheIcon) {
+  addNames({row().itemName});
+  folder.addColourIcon(row().key);
   startDialog();
-  EXPECT_THAT(icons(), ElementsAre(iconFolder(GetParam().key)));
-  session().type("idFilterAppearance", std::string(GetParam().name).substr(0, 1));
-  EXPECT_THAT(icons(), ElementsAre(iconFolder(GetParam().key)));
+  EXPECT_THAT(icons(), ElementsAre(iconFolder(row().key)));
+  session().type("idFilterAppearance", std::string(row().itemName).substr(0, 1));
+  EXPECT_THAT(icons(), ElementsAre(iconFolder(row().key)));
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, IconKey,
-                         ::testing::Values(KeyCase{"Colour", "RAL 9005 Jet black", "RAL9005"},
-                                           KeyCase{"AnyFourthCharacter", "RAL-1000", "RAL1000"},
-                                           KeyCase{"FourthDigit", "RAL10005", "RAL0005"},
-                                           KeyCase{"BlankInside", "RAL 10 05", "RAL10 0"},
-                                           KeyCase{"Short", "RAL 12", "RAL12"},
-                                           KeyCase{"FourCharacters", "Zinc", "Zin"},
-                                           KeyCase{"FiveCharacters", "Steel", "Stel"}),
-                         [](const auto& info) { return std::string(info.param.description); });
 
 TEST_F(ItemLists, HaveIconsOnlyWhereTheFileExists) {
   folder.addColourIcon("RAL3000");
@@ -243,31 +241,30 @@ TEST_F(ItemLists, TakeIconsThatAppearMeanwhile) {
 }
 
 struct LibraryName {
-  const char* description;
   const char* name;
+  const char* libraryName;
   bool hasIcons;
 };
 
-class IconLibrary : public ItemLists, public ::testing::WithParamInterface<LibraryName> {};
+class IconLibrary : public ItemLists, public WithRow<LibraryName> {};
 
-TEST_P(IconLibrary, IsOneWhoseNameContainsThatOfTheColours) {
-  addAppearanceLibrary("Another.adsklib", GetParam().name, {"RAL 9005 Jet black"});
+TABLE(Names, IconLibrary, byName,
+      {{"Inside", "my_RAL_COLORS_2", true},
+       {"AtTheEnd", "old RAL_COLORS", true},
+       {"LowerCase", "ral_colors", false},
+       {"Cut", "RAL_COLOR", false},
+       {"Another", "Woods", false}});
+
+TABLE_TEST(IconLibrary, IsOneWhoseNameContainsThatOfTheColours) {
+  addAppearanceLibrary("Another.adsklib", row().libraryName, {"RAL 9005 Jet black"});
   folder.addColourIcon("RAL9005");
   startDialog();
   session().choose("idLibAssets", "RAL_COLORS");
-  session().choose("idLibAssets", GetParam().name);
-  EXPECT_THAT(icons(), ElementsAre(GetParam().hasIcons ? iconFolder("RAL9005") : ""));
+  session().choose("idLibAssets", row().libraryName);
+  EXPECT_THAT(icons(), ElementsAre(row().hasIcons ? iconFolder("RAL9005") : ""));
   session().choose("idLibAssets", "RAL_COLORS");
   EXPECT_EQ(icons().back(), iconFolder("RAL9005"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, IconLibrary,
-                         ::testing::Values(LibraryName{"Inside", "my_RAL_COLORS_2", true},
-                                           LibraryName{"AtTheEnd", "old RAL_COLORS", true},
-                                           LibraryName{"LowerCase", "ral_colors", false},
-                                           LibraryName{"Cut", "RAL_COLOR", false},
-                                           LibraryName{"Another", "Woods", false}),
-                         [](const auto& info) { return std::string(info.param.description); });
 
 TEST_F(ItemLists, OfColoursRaiseForANameOfLessThanFourCharactersAndKeepTheItemsBeforeIt) {
   folder.writeLibraries(appearancesFolder,
@@ -295,58 +292,58 @@ TEST_F(ItemLists, OfAMaterialLibraryAreFilledAsColoursToo) {
   EXPECT_THAT(itemsOf("idMaterialList"), ElementsAre("Steel 37"));
 }
 
-class MissingListInput : public ItemLists, public ::testing::WithParamInterface<std::size_t> {};
+class MissingListInput : public ItemLists, public WithRow<std::size_t> {};
 
-TEST_P(MissingListInput, LeavesTheListAsItIs) {
+TABLE(Nth, MissingListInput, byNumber, {1U, 2U, 3U});
+
+TABLE_TEST(MissingListInput, LeavesTheListAsItIs) {
   startDialog();
-  host().gate().setFault({GetParam(), FaultAnswer::Nothing, "CommandInputs.itemById"});
+  host().gate().setFault({row(), FaultAnswer::Nothing, "CommandInputs.itemById"});
   session().type("idFilterMaterial", "s");
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_THAT(itemsOf("idMaterialList"), SizeIs(metals.size()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Nth, MissingListInput, ::testing::Values(1U, 2U, 3U));
+class MissingListObject : public ItemLists, public WithRow<const char*> {};
 
-class MissingListObject : public ItemLists, public ::testing::WithParamInterface<const char*> {};
+TABLE(Calls, MissingListObject,
+      [](const auto& row) {
+        const std::string call = row;
+        return call.substr(call.find('.') + 1);
+      },
+      {"Application.materialLibraries", "MaterialLibrary.materials", "DropDownCommandInput.selectedItem",
+       "DropDownCommandInput.listItems"});
 
-TEST_P(MissingListObject, RaisesAndLeavesTheListAsItIs) {
+TABLE_TEST(MissingListObject, RaisesAndLeavesTheListAsItIs) {
   startDialog();
-  host().gate().setFault({1, FaultAnswer::Nothing, GetParam()});
+  host().gate().setFault({1, FaultAnswer::Nothing, row()});
   session().type("idFilterMaterial", "s");
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idFilterMaterial): std::exception:")));
   EXPECT_THAT(itemsOf("idMaterialList"), SizeIs(metals.size()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Calls, MissingListObject,
-                         ::testing::Values("Application.materialLibraries", "MaterialLibrary.materials",
-                                           "DropDownCommandInput.selectedItem", "DropDownCommandInput.listItems"),
-                         [](const auto& info) {
-                           const std::string call = info.param;
-                           return call.substr(call.find('.') + 1);
-                         });
+class ListRoutines : public ItemLists, public WithRow<ListInputs> {};
 
-class ListRoutines : public ItemLists, public ::testing::WithParamInterface<ListInputs> {};
+TABLE(Inputs, ListRoutines, byNumber,
+      {{"idFilterSelect", "idFilterMaterial", "idMaterialList"},
+       {"idLibMaterials", "idLibMaterials", "idMaterialList"},
+       {"idLibMaterials", "idFilterMaterial", "idFilterMaterial"},
+       {"idLibMaterials", "idActMaterial", "idMaterialList"},
+       {"idGroupMaterial", "idFilterMaterial", "idMaterialList"},
+       {"idUnknown", "idFilterMaterial", "idMaterialList"},
+       {"idLibMaterials", "idUnknown", "idMaterialList"},
+       {"idLibMaterials", "idFilterMaterial", ""}});
 
-TEST_P(ListRoutines, DoNothingForInputsOfAnotherKindOrNone) {
+TABLE_TEST(ListRoutines, DoNothingForInputsOfAnotherKindOrNone) {
   startDialog();
   const LinkedDialog dialog(host());
   session().choose("idMaterialList", "Foam");
   session().choose("idAppearanceList", "RAL 5015 Sky blue");
-  EXPECT_NO_THROW(tintora::fillItemList(GetParam().library, GetParam().filter, GetParam().list));
+  EXPECT_NO_THROW(tintora::fillItemList(row().library, row().filter, row().list));
   EXPECT_EQ(shown("idMaterialList"), "Foam");
   EXPECT_EQ(shown("idAppearanceList"), "RAL 5015 Sky blue");
 }
-
-INSTANTIATE_TEST_SUITE_P(Inputs, ListRoutines,
-                         ::testing::Values(ListInputs{"idFilterSelect", "idFilterMaterial", "idMaterialList"},
-                                           ListInputs{"idLibMaterials", "idLibMaterials", "idMaterialList"},
-                                           ListInputs{"idLibMaterials", "idFilterMaterial", "idFilterMaterial"},
-                                           ListInputs{"idLibMaterials", "idActMaterial", "idMaterialList"},
-                                           ListInputs{"idGroupMaterial", "idFilterMaterial", "idMaterialList"},
-                                           ListInputs{"idUnknown", "idFilterMaterial", "idMaterialList"},
-                                           ListInputs{"idLibMaterials", "idUnknown", "idMaterialList"},
-                                           ListInputs{"idLibMaterials", "idFilterMaterial", ""}));
 
 TEST_F(ItemLists, OfALibraryThatNobodyKnowsAreEmpty) {
   startDialog();

@@ -13,6 +13,7 @@
 #include "host/libraries/library_file.h"
 #include "tests/dialog/dialog_fixture.h"
 #include "tests/support/linked_module_path.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -50,34 +51,33 @@ class Libraries : public DialogTest {
 };
 
 struct Entry {
-  const char* description;
+  const char* name;
   const char* fileName;
   bool isGivenToHost;
   bool isListed;
 };
 
-class LibraryFileName : public Libraries, public ::testing::WithParamInterface<Entry> {};
+class LibraryFileName : public Libraries, public WithRow<Entry> {};
 
-TEST_P(LibraryFileName, DecidesWhetherTheHostGetsTheFile) {
-  addMaterialLibrary(GetParam().fileName, "Found", {{"Brass"}});
+TABLE(Names, LibraryFileName, byName,
+      {{"Usual", "Brass.adsklib", true, true},
+       {"WithBlanks", "Brass and more.adsklib", true, true},
+       {"Twice", "Brass.adsklib.adsklib", true, true},
+       {"MarkInside", "old.adsklib.bak", true, false},
+       {"MarkInside2", "Colours.adsklib.old", true, false},
+       {"LongerEnding", "Brass.adsklibrary", true, false},
+       {"UpperCase", "X.ADSKLIB", false, false},
+       {"NoDot", "Brassadsklib", false, false},
+       {"Text", "readme.txt", false, false}});
+
+TABLE_TEST(LibraryFileName, DecidesWhetherTheHostGetsTheFile) {
+  addMaterialLibrary(row().fileName, "Found", {{"Brass"}});
   build();
-  EXPECT_THAT(loadsOf(materialsFolder / GetParam().fileName), SizeIs(GetParam().isGivenToHost ? 1 : 0));
+  EXPECT_THAT(loadsOf(materialsFolder / row().fileName), SizeIs(row().isGivenToHost ? 1 : 0));
   const std::vector<std::string> libraries = itemsOf("idLibMaterials");
-  EXPECT_EQ(std::count(libraries.begin(), libraries.end(), "Found"), GetParam().isListed ? 1 : 0);
+  EXPECT_EQ(std::count(libraries.begin(), libraries.end(), "Found"), row().isListed ? 1 : 0);
   EXPECT_THAT(libraries, Contains("Metals"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, LibraryFileName,
-                         ::testing::Values(Entry{"Usual", "Brass.adsklib", true, true},
-                                           Entry{"WithBlanks", "Brass and more.adsklib", true, true},
-                                           Entry{"Twice", "Brass.adsklib.adsklib", true, true},
-                                           Entry{"MarkInside", "old.adsklib.bak", true, false},
-                                           Entry{"MarkInside2", "Colours.adsklib.old", true, false},
-                                           Entry{"LongerEnding", "Brass.adsklibrary", true, false},
-                                           Entry{"UpperCase", "X.ADSKLIB", false, false},
-                                           Entry{"NoDot", "Brassadsklib", false, false},
-                                           Entry{"Text", "readme.txt", false, false}),
-                         [](const auto& info) { return std::string(info.param.description); });
 
 TEST_F(Libraries, FolderNamedLikeALibraryIsGivenToTheHostAndNotEntered) {
   folder.write(materialsFolder / "x.adsklib" / "Inside.adsklib", materialLibrary("Inside", {{"Brass"}}));
@@ -283,9 +283,11 @@ struct LibraryKind {
   std::size_t inputs;
 };
 
-class LibraryFolder : public Libraries, public ::testing::WithParamInterface<LibraryKind> {
+const std::vector<LibraryKind> libraryKinds = {{"Appearances", 6}, {"Materials", 13}};
+
+class LibraryFolder : public Libraries, public WithRow<LibraryKind> {
  protected:
-  fs::path kindFolder() const { return fs::path("resources/Libs") / GetParam().name; }
+  fs::path kindFolder() const { return fs::path("resources/Libs") / row().name; }
 
   void expectFileSystemError(const std::string& operation) {
     const std::vector<headless::BoundaryError> errors = session().takeErrors();
@@ -295,13 +297,15 @@ class LibraryFolder : public Libraries, public ::testing::WithParamInterface<Lib
     EXPECT_THAT(errors[0].what, HasSubstr(operation));
     EXPECT_TRUE(errors[0].code);
     code = errors[0].code;
-    EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(GetParam().inputs)));
+    EXPECT_THAT(inputIds(), ElementsAreArray(firstInputs(row().inputs)));
   }
 
   std::error_code code;
 };
 
-TEST_P(LibraryFolder, EndsTheDialogWhenItIsMissing) {
+TABLE(Kinds, LibraryFolder, byName, libraryKinds);
+
+TABLE_TEST(LibraryFolder, EndsTheDialogWhenItIsMissing) {
   folder.remove(kindFolder());
   build();
   expectFileSystemError("directory_iterator::directory_iterator");
@@ -309,7 +313,7 @@ TEST_P(LibraryFolder, EndsTheDialogWhenItIsMissing) {
   EXPECT_EQ(code.value(), ENOENT);
 }
 
-TEST_P(LibraryFolder, EndsTheDialogWhenItIsAFile) {
+TABLE_TEST(LibraryFolder, EndsTheDialogWhenItIsAFile) {
   folder.remove(kindFolder());
   folder.write(kindFolder(), "not a folder");
   build();
@@ -319,7 +323,9 @@ TEST_P(LibraryFolder, EndsTheDialogWhenItIsAFile) {
 #ifndef _WIN32
 using PosixLibraryFolder = LibraryFolder;
 
-TEST_P(PosixLibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
+TABLE(Kinds, PosixLibraryFolder, byName, libraryKinds);
+
+TABLE_TEST(PosixLibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
   fs::create_symlink("circle", folder.path() / kindFolder() / "circle");
   build();
   expectFileSystemError("directory_entry::status");
@@ -327,7 +333,7 @@ TEST_P(PosixLibraryFolder, EndsTheDialogWhenTheStatusOfAnEntryCannotBeRead) {
 }
 #endif
 
-TEST_P(LibraryFolder, IsReadAgainByTheNextDialog) {
+TABLE_TEST(LibraryFolder, IsReadAgainByTheNextDialog) {
   const std::vector<std::string> files = folder.listing(kindFolder());
   const std::string content = folder.read(kindFolder() / files.front());
   folder.remove(kindFolder());
@@ -338,14 +344,6 @@ TEST_P(LibraryFolder, IsReadAgainByTheNextDialog) {
   openDialog();
   EXPECT_THAT(inputIds(), SizeIs(16));
 }
-
-const auto libraryKinds = ::testing::Values(LibraryKind{"Appearances", 6}, LibraryKind{"Materials", 13});
-const auto nameOfKind = [](const auto& info) { return std::string(info.param.name); };
-
-INSTANTIATE_TEST_SUITE_P(Kinds, LibraryFolder, libraryKinds, nameOfKind);
-#ifndef _WIN32
-INSTANTIATE_TEST_SUITE_P(Kinds, PosixLibraryFolder, libraryKinds, nameOfKind);
-#endif
 
 }  // namespace
 }  // namespace tests

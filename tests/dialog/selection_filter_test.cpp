@@ -2,6 +2,7 @@
 
 #include "tests/dialog/dialog_fixture.h"
 #include "tests/support/linked_dialog.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -36,22 +37,24 @@ class SelectionFilter : public DialogTest {
     EXPECT_EQ(markup("idActMaterial"), "");
   }
 
-  headless::ButtonRowInput& row() {
+  headless::ButtonRowInput& buttonRow() {
     return dynamic_cast<headless::ButtonRowInput&>(*command().findInput("idFilterSelect"));
   }
 };
 
-class SelectionFilterUnderProfile : public SelectionFilter, public ::testing::WithParamInterface<std::string> {
+class SelectionFilterUnderProfile : public SelectionFilter, public WithRow<std::string> {
  protected:
-  headless::Profile profile() const { return headless::profileNamed(GetParam()); }
+  headless::Profile profile() const { return headless::profileNamed(row()); }
 };
 
-TEST_P(SelectionFilterUnderProfile, LetsBodiesThroughAtFirst) {
+TABLE_OF_PROFILES(SelectionFilterUnderProfile);
+
+TABLE_TEST(SelectionFilterUnderProfile, LetsBodiesThroughAtFirst) {
   startDialog(profile());
   expectMode(modes[1]);
 }
 
-TEST_P(SelectionFilterUnderProfile, FollowsEveryChangeAndStartsTheSelectionAfresh) {
+TABLE_TEST(SelectionFilterUnderProfile, FollowsEveryChangeAndStartsTheSelectionAfresh) {
   startDialog(profile());
   for (const Mode& from : modes) {
     for (const Mode& to : modes) {
@@ -69,7 +72,7 @@ TEST_P(SelectionFilterUnderProfile, FollowsEveryChangeAndStartsTheSelectionAfres
   }
 }
 
-TEST_P(SelectionFilterUnderProfile, RefusesWhatItsModeDoesNotName) {
+TABLE_TEST(SelectionFilterUnderProfile, RefusesWhatItsModeDoesNotName) {
   startDialog(profile());
   for (const Mode& mode : modes) {
     session().choose("idFilterSelect", mode.label);
@@ -83,19 +86,17 @@ TEST_P(SelectionFilterUnderProfile, RefusesWhatItsModeDoesNotName) {
   }
 }
 
-INSTANTIATE_UNDER_ALL_PROFILES(SelectionFilterUnderProfile);
+class RestoredFilterMode : public SelectionFilter, public WithRow<std::size_t> {};
 
-class RestoredFilterMode : public SelectionFilter, public ::testing::WithParamInterface<std::size_t> {};
+TABLE(
+    All, RestoredFilterMode, [](const auto& row) { return std::string(modes[row].label); }, numbersBelow(3));
 
-TEST_P(RestoredFilterMode, IsTheOneOfTheSettingsFile) {
-  folder.write(settingsFile(), std::to_string(GetParam()));
+TABLE_TEST(RestoredFilterMode, IsTheOneOfTheSettingsFile) {
+  folder.write(settingsFile(), std::to_string(row()));
   startDialog();
-  EXPECT_EQ(shown("idFilterSelect"), modes[GetParam()].label);
-  expectMode(modes[GetParam()]);
+  EXPECT_EQ(shown("idFilterSelect"), modes[row()].label);
+  expectMode(modes[row()]);
 }
-
-INSTANTIATE_TEST_SUITE_P(All, RestoredFilterMode, ::testing::Range<std::size_t>(0, 3),
-                         [](const auto& info) { return std::string(modes[info.param].label); });
 
 TEST_F(SelectionFilter, HasNoUpperLimit) {
   startDialog();
@@ -126,7 +127,7 @@ TEST_F(SelectionFilter, IsSetUpInThisOrder) {
 TEST_F(SelectionFilter, IsGoneForAnIndexThatIsNoMode) {
   startDialog();
   session().pick("Base");
-  row().list().add("Other", false, "resources/BtnSelects/Other", -1);
+  buttonRow().list().add("Other", false, "resources/BtnSelects/Other", -1);
   session().choose("idFilterSelect", "Other");
   const InputView selection = session().input("idSelection");
   EXPECT_THAT(selection.filters, IsEmpty());
@@ -137,8 +138,8 @@ TEST_F(SelectionFilter, IsGoneForAnIndexThatIsNoMode) {
 TEST_F(SelectionFilter, RaisesWithoutASelectedModeOnceTheSelectionIsEmpty) {
   startDialog();
   session().pick("Base");
-  row().list().setSelected(*row().list().all()[1].get(), false);
-  host().ui().runner().changedByUser(row());
+  buttonRow().list().setSelected(*buttonRow().list().all()[1].get(), false);
+  host().ui().runner().changedByUser(buttonRow());
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idFilterSelect): std::exception:")));
   EXPECT_THAT(session().picked(), IsEmpty());
   EXPECT_THAT(session().input("idSelection").filters, IsEmpty());

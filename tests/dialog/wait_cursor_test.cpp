@@ -2,6 +2,7 @@
 
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -28,35 +29,34 @@ class WaitCursor : public AddInTest {
 
 class WaitCursorUnderProfile : public AddInUnderProfile {};
 
-TEST_P(WaitCursorUnderProfile, IsGoneWhenTheDialogIsThere) {
+TABLE_OF_PROFILES(WaitCursorUnderProfile);
+
+TABLE_TEST(WaitCursorUnderProfile, IsGoneWhenTheDialogIsThere) {
   start(profile());
   openDialog();
   EXPECT_EQ(cursor().shape, CursorShape::Arrow);
   EXPECT_EQ(cursor().displayCount, 0);
 }
 
-INSTANTIATE_UNDER_ALL_PROFILES(WaitCursorUnderProfile);
+class WaitCursorDuring : public WaitCursor, public WithRow<const char*> {};
 
-class WaitCursorDuring : public WaitCursor, public ::testing::WithParamInterface<const char*> {};
+TABLE(Calls, WaitCursorDuring,
+      [](const auto& row) {
+        std::string name = row;
+        return name.substr(name.find('.') + 1, name.find('=') - name.find('.') - 1);
+      },
+      {"CommandCreatedEventArgs.command", "Command.commandInputs", "MaterialLibraries.load",
+       "Command.setDialogInitialSize", "Application.currentUser", "SelectionCommandInput.commandPrompt="});
 
-TEST_P(WaitCursorDuring, IsShownFromTheFirstCallToTheLast) {
+TABLE_TEST(WaitCursorDuring, IsShownFromTheFirstCallToTheLast) {
   // A command without inputs is executed at once; being started again would build a dialog after all.
   headless::Profile profile = headless::documentedProfile();
   profile.executeFromTerminated = headless::ExecuteFromTerminated::Refused;
   start(profile);
   expectCursor(CursorShape::Arrow, 0);
-  failAt(GetParam());
+  failAt(row());
   expectCursor(CursorShape::Wait, 1);
 }
-
-INSTANTIATE_TEST_SUITE_P(Calls, WaitCursorDuring,
-                         ::testing::Values("CommandCreatedEventArgs.command", "Command.commandInputs",
-                                           "MaterialLibraries.load", "Command.setDialogInitialSize",
-                                           "Application.currentUser", "SelectionCommandInput.commandPrompt="),
-                         [](const auto& info) {
-                           std::string name = info.param;
-                           return name.substr(name.find('.') + 1, name.find('=') - name.find('.') - 1);
-                         });
 
 TEST_F(WaitCursor, GivesWayToTheCursorThatWasThereBefore) {
   start();

@@ -9,6 +9,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "tests/support/tables.h"
+
 namespace api_types {
 namespace {
 
@@ -187,38 +189,59 @@ struct Enumerator {
   int expected;
 };
 
-void PrintTo(const Enumerator& enumerator, std::ostream* stream) {
-  *stream << enumerator.name;
-}
-
 #define VALUE(name, number) \
   Enumerator {              \
 #name, name, number     \
   }
 
-class EnumValue : public testing::TestWithParam<Enumerator> {};
+class EnumValue : public testing::Test, public tests::WithRow<Enumerator> {};
 
-TEST_P(EnumValue, IsAsDocumented) {
-  EXPECT_EQ(GetParam().value, GetParam().expected);
+TABLE(Core, EnumValue, tests::byName,
+      {VALUE(FusionDesignDocumentType, 0),
+       VALUE(OKButtonType, 0),
+       VALUE(OKCancelButtonType, 1),
+       VALUE(RetryCancelButtonType, 2),
+       VALUE(YesNoButtonType, 3),
+       VALUE(YesNoCancelButtonType, 4),
+       VALUE(NoIconIconType, 0),
+       VALUE(QuestionIconType, 1),
+       VALUE(InformationIconType, 2),
+       VALUE(WarningIconType, 3),
+       VALUE(CriticalIconType, 4),
+       VALUE(DialogError, -1),
+       VALUE(DialogOK, 0),
+       VALUE(DialogCancel, 1),
+       VALUE(DialogYes, 2),
+       VALUE(DialogNo, 3),
+       VALUE(LabeledIconDropDownStyle, 0),
+       VALUE(TextListDropDownStyle, 1),
+       VALUE(CheckBoxDropDownStyle, 2),
+       VALUE(UnknownTerminationReason, 0),
+       VALUE(CompletedTerminationReason, 1),
+       VALUE(CancelledTerminationReason, 2),
+       VALUE(AbortedTerminationReason, 3),
+       VALUE(PreEmptedTerminationReason, 4),
+       VALUE(SessionEndingTerminationReason, 5),
+       VALUE(MaterialAppearanceSource, 0),
+       VALUE(BodyAppearanceSource, 1),
+       VALUE(OccurrenceAppearanceSource, 2),
+       VALUE(FaceAppearanceSource, 3),
+       VALUE(OverrideAppearanceSource, 4),
+       VALUE(CheckBoxListType, 0),
+       VALUE(RadioButtonlistType, 1),
+       VALUE(StandardListType, 2),
+       VALUE(Ok, 0),
+       VALUE(UnexpectedError, 1),
+       VALUE(InternalValidationError, 2),
+       VALUE(BadApiCallError, 3),
+       VALUE(UnderlyingObjectDeletedError, 4),
+       VALUE(OperationFailed, 5),
+       VALUE(ExpressionError, 6),
+       VALUE(InvalidGeometryError, 7)});
+
+TABLE_TEST(EnumValue, IsAsDocumented) {
+  EXPECT_EQ(row().value, row().expected);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Core, EnumValue,
-    testing::Values(
-        VALUE(FusionDesignDocumentType, 0), VALUE(OKButtonType, 0), VALUE(OKCancelButtonType, 1),
-        VALUE(RetryCancelButtonType, 2), VALUE(YesNoButtonType, 3), VALUE(YesNoCancelButtonType, 4),
-        VALUE(NoIconIconType, 0), VALUE(QuestionIconType, 1), VALUE(InformationIconType, 2), VALUE(WarningIconType, 3),
-        VALUE(CriticalIconType, 4), VALUE(DialogError, -1), VALUE(DialogOK, 0), VALUE(DialogCancel, 1),
-        VALUE(DialogYes, 2), VALUE(DialogNo, 3), VALUE(LabeledIconDropDownStyle, 0), VALUE(TextListDropDownStyle, 1),
-        VALUE(CheckBoxDropDownStyle, 2), VALUE(UnknownTerminationReason, 0), VALUE(CompletedTerminationReason, 1),
-        VALUE(CancelledTerminationReason, 2), VALUE(AbortedTerminationReason, 3), VALUE(PreEmptedTerminationReason, 4),
-        VALUE(SessionEndingTerminationReason, 5), VALUE(MaterialAppearanceSource, 0), VALUE(BodyAppearanceSource, 1),
-        VALUE(OccurrenceAppearanceSource, 2), VALUE(FaceAppearanceSource, 3), VALUE(OverrideAppearanceSource, 4),
-        VALUE(CheckBoxListType, 0), VALUE(RadioButtonlistType, 1), VALUE(StandardListType, 2), VALUE(Ok, 0),
-        VALUE(UnexpectedError, 1), VALUE(InternalValidationError, 2), VALUE(BadApiCallError, 3),
-        VALUE(UnderlyingObjectDeletedError, 4), VALUE(OperationFailed, 5), VALUE(ExpressionError, 6),
-        VALUE(InvalidGeometryError, 7)),
-    [](const auto& info) { return std::string(info.param.name); });
 
 #undef VALUE
 

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -95,21 +96,24 @@ const std::vector<ApiClass> apiClasses = {
 
 #undef CLASS
 
-class ClassText : public testing::TestWithParam<ApiClass> {};
+class ClassText : public testing::Test, public WithRow<ApiClass> {};
 
-TEST_P(ClassText, IsTheFullNameOfTheClass) {
-  EXPECT_EQ(GetParam().type, GetParam().text);
-  EXPECT_TRUE(GetParam().interfaceId == GetParam().type) << "one address for both";
-  EXPECT_TRUE(GetParam().isBase);
+TABLE(
+    OfEveryClass, ClassText,
+    [](const auto& row) {
+      std::string name;
+      for (const char c : row.text) {
+        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? std::string(1, c) : std::string();
+      }
+      return name;
+    },
+    apiClasses);
+
+TABLE_TEST(ClassText, IsTheFullNameOfTheClass) {
+  EXPECT_EQ(row().type, row().text);
+  EXPECT_TRUE(row().interfaceId == row().type) << "one address for both";
+  EXPECT_TRUE(row().isBase);
 }
-
-INSTANTIATE_TEST_SUITE_P(OfEveryClass, ClassText, testing::ValuesIn(apiClasses), [](const auto& info) {
-  std::string name;
-  for (const char c : info.param.text) {
-    name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? std::string(1, c) : std::string();
-  }
-  return name;
-});
 
 TEST(ClassTexts, HaveAnAddressOfTheirOwn) {
   std::set<const void*> addresses;

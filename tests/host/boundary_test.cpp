@@ -1,4 +1,5 @@
 #include "host/runtime/boundary.h"
+#include "tests/support/tables.h"
 
 #include <gtest/gtest.h>
 
@@ -18,36 +19,33 @@ struct Raised {
   std::string what;
 };
 
-class BoundaryKind : public testing::TestWithParam<Raised> {};
+class BoundaryKind : public testing::Test, public WithRow<Raised> {};
 
-TEST_P(BoundaryKind, IsTheStandardClassWhateverTheCompilerCallsIt) {
+TABLE(Standard, BoundaryKind, byName,
+      {{"NullAccess", [] { throw std::exception(); }, "std::exception", ""},
+       {"OutOfRange", [] { throw std::out_of_range("far"); }, "std::out_of_range", "far"},
+       {"InvalidArgument", [] { throw std::invalid_argument("bad"); }, "std::invalid_argument", "bad"},
+       {"LengthError", [] { throw std::length_error("long"); }, "std::length_error", "long"},
+       {"LogicError", [] { throw std::domain_error("odd"); }, "std::logic_error", "odd"},
+       {"RuntimeError", [] { throw std::runtime_error("late"); }, "std::runtime_error", "late"},
+       {"BadAlloc", [] { throw std::bad_alloc(); }, "std::bad_alloc", ""},
+       {"SystemError", [] { throw std::system_error(std::make_error_code(std::errc::timed_out)); }, "std::system_error",
+        ""},
+       {"FilesystemError",
+        [] { throw std::filesystem::filesystem_error("gone", std::make_error_code(std::errc::io_error)); },
+        "std::filesystem::filesystem_error", ""},
+       {"Number", [] { throw 7; }, "unknown", "something that is no standard exception"}});
+
+TABLE_TEST(BoundaryKind, IsTheStandardClassWhateverTheCompilerCallsIt) {
   Boundary boundary;
-  EXPECT_FALSE(boundary.run("run", GetParam().raise));
+  EXPECT_FALSE(boundary.run("run", row().raise));
   ASSERT_EQ(boundary.errors().size(), 1U);
   EXPECT_EQ(boundary.errors().front().where, "run");
-  EXPECT_EQ(boundary.errors().front().kind, GetParam().kind);
-  if (!GetParam().what.empty()) {
-    EXPECT_EQ(boundary.errors().front().what, GetParam().what);
+  EXPECT_EQ(boundary.errors().front().kind, row().kind);
+  if (!row().what.empty()) {
+    EXPECT_EQ(boundary.errors().front().what, row().what);
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Standard, BoundaryKind,
-    testing::Values(
-        Raised{"NullAccess", [] { throw std::exception(); }, "std::exception", ""},
-        Raised{"OutOfRange", [] { throw std::out_of_range("far"); }, "std::out_of_range", "far"},
-        Raised{"InvalidArgument", [] { throw std::invalid_argument("bad"); }, "std::invalid_argument", "bad"},
-        Raised{"LengthError", [] { throw std::length_error("long"); }, "std::length_error", "long"},
-        Raised{"LogicError", [] { throw std::domain_error("odd"); }, "std::logic_error", "odd"},
-        Raised{"RuntimeError", [] { throw std::runtime_error("late"); }, "std::runtime_error", "late"},
-        Raised{"BadAlloc", [] { throw std::bad_alloc(); }, "std::bad_alloc", ""},
-        Raised{"SystemError", [] { throw std::system_error(std::make_error_code(std::errc::timed_out)); },
-               "std::system_error", ""},
-        Raised{"FilesystemError",
-               [] { throw std::filesystem::filesystem_error("gone", std::make_error_code(std::errc::io_error)); },
-               "std::filesystem::filesystem_error", ""},
-        Raised{"Number", [] { throw 7; }, "unknown", "something that is no standard exception"}),
-    [](const auto& info) { return info.param.name; });
 
 TEST(BoundaryErrors, KeepTheCodeOfSystemErrors) {
   Boundary boundary;

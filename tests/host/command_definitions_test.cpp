@@ -1,6 +1,7 @@
 #include "host/ui/command_definitions.h"
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -42,16 +43,22 @@ struct IdCase {
   bool isAllowed;
 };
 
-class DefinitionId : public Definitions, public testing::WithParamInterface<IdCase> {};
+class DefinitionId : public Definitions, public WithRow<IdCase> {};
 
-TEST_P(DefinitionId, HasLettersDigitsAndUnderscoresOnly) {
-  EXPECT_EQ(static_cast<bool>(add(GetParam().id)), GetParam().isAllowed) << GetParam().id;
+TABLE(Characters, DefinitionId, byNumber,
+      {{"azAZ09_", true},
+       {"_", true},
+       {"0", true},
+       {"", false},
+       {"a b", false},
+       {"a-b", false},
+       {"a.b", false},
+       {"a/b", false},
+       {"\xC3\xA4", false}});
+
+TABLE_TEST(DefinitionId, HasLettersDigitsAndUnderscoresOnly) {
+  EXPECT_EQ(static_cast<bool>(add(row().id)), row().isAllowed) << row().id;
 }
-
-INSTANTIATE_TEST_SUITE_P(Characters, DefinitionId,
-                         testing::Values(IdCase{"azAZ09_", true}, IdCase{"_", true}, IdCase{"0", true},
-                                         IdCase{"", false}, IdCase{"a b", false}, IdCase{"a-b", false},
-                                         IdCase{"a.b", false}, IdCase{"a/b", false}, IdCase{"\xC3\xA4", false}));
 
 TEST_F(Definitions, OfTheHostAreNotDeleted) {
   const auto native = all()->itemById("SelectCommand");

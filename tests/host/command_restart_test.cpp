@@ -3,6 +3,7 @@
 #include "host/ui/command_runner.h"
 #include "tests/host/application_events.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -118,12 +119,16 @@ TEST_F(StartByProgram, FromTheEndOfOneStartsNothingInTheEventsOfTheNext) {
   EXPECT_EQ(ui()->activeCommand(), "Dialog");
 }
 
-class Restart : public StartByProgram, public testing::WithParamInterface<ExecuteFromTerminated> {
+class Restart : public StartByProgram, public WithRow<ExecuteFromTerminated> {
  protected:
-  void SetUp() override { startWith(GetParam()); }
+  void SetUp() override { startWith(row()); }
 };
 
-TEST_P(Restart, WhenAnotherCommandTakesOverFollowsThatOne) {
+TABLE(FromTheEnd, Restart,
+      [](const auto& row) { return row == ExecuteFromTerminated::AtOnce ? "AtOnce" : "AfterHandlers"; },
+      {ExecuteFromTerminated::AfterHandlers, ExecuteFromTerminated::AtOnce});
+
+TABLE_TEST(Restart, WhenAnotherCommandTakesOverFollowsThatOne) {
   restartOnce();
   session().press("Dialog");
   log.clear();
@@ -134,7 +139,7 @@ TEST_P(Restart, WhenAnotherCommandTakesOverFollowsThatOne) {
                       "destroy(4)", "terminated(Other 4)", "created", "createdAny(Dialog)", "activate"}));
 }
 
-TEST_P(Restart, WhenTheDocumentClosesHappensWithoutIt) {
+TABLE_TEST(Restart, WhenTheDocumentClosesHappensWithoutIt) {
   restartOnce();
   session().press("Dialog");
   session().closeDocument();
@@ -144,7 +149,7 @@ TEST_P(Restart, WhenTheDocumentClosesHappensWithoutIt) {
   session().pressOk();
 }
 
-TEST_P(Restart, WhenAnotherDocumentOpensHappensThere) {
+TABLE_TEST(Restart, WhenAnotherDocumentOpensHappensThere) {
   restartOnce();
   session().press("Dialog");
   session().openDesign(flatDesign(1));
@@ -152,7 +157,7 @@ TEST_P(Restart, WhenAnotherDocumentOpensHappensThere) {
   session().pressCancel();
 }
 
-TEST_P(Restart, WhenTheHostEndsDoesNotHappen) {
+TABLE_TEST(Restart, WhenTheHostEndsDoesNotHappen) {
   restartOnce();
   session().press("Dialog");
   log.clear();
@@ -160,23 +165,17 @@ TEST_P(Restart, WhenTheHostEndsDoesNotHappen) {
   EXPECT_THAT(log, testing::Not(testing::Contains("created")));
 }
 
-TEST_P(Restart, OfADefinitionThatIsDeletedMeanwhileDoesNotHappen) {
+TABLE_TEST(Restart, OfADefinitionThatIsDeletedMeanwhileDoesNotHappen) {
   restartOnce();
   ApplicationRecorder deleting(log, "deleting");
   deleting.then = [this](const auto&) { dialog->definition->deleteMe(); };
   session().press("Dialog");
-  if (GetParam() == ExecuteFromTerminated::AfterHandlers) {
+  if (row() == ExecuteFromTerminated::AfterHandlers) {
     ui()->commandTerminated()->add(&deleting);
   }
   session().pressCancel();
-  EXPECT_EQ(session().isDialogOpen(), GetParam() == ExecuteFromTerminated::AtOnce);
+  EXPECT_EQ(session().isDialogOpen(), row() == ExecuteFromTerminated::AtOnce);
 }
-
-INSTANTIATE_TEST_SUITE_P(FromTheEnd, Restart,
-                         testing::Values(ExecuteFromTerminated::AfterHandlers, ExecuteFromTerminated::AtOnce),
-                         [](const auto& info) {
-                           return info.param == ExecuteFromTerminated::AtOnce ? "AtOnce" : "AfterHandlers";
-                         });
 
 TEST_F(StartByProgram, OfTwoCommandsThatAlwaysComeBackIsStopped) {
   application->terminated.then = [](const Ptr<ApplicationCommandEventArgs>& arguments) {

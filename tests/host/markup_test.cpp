@@ -1,4 +1,5 @@
 #include "host/ui/markup.h"
+#include "tests/support/tables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,25 +12,28 @@ struct MarkupCase {
   std::string shown;
 };
 
-void PrintTo(const MarkupCase& markup, std::ostream* stream) {
-  *stream << markup.formatted;
+class Markup : public testing::Test, public WithRow<MarkupCase> {};
+
+TABLE(Texts, Markup, byNumber,
+      {{"", ""},
+       {"plain", "plain"},
+       {"<b>bold</b>", "bold"},
+       {"<b>never closed", "never closed"},
+       {"kg.m<sup>-3</sup>", "kg.m-3"},
+       {"one<br />two<br>three<br/>four", "one\ntwo\nthree\nfour"},
+       {"<a href=\"page\">link</a>", "link"},
+       {"<div align=\"center\">a</div>", "a"},
+       {"a < b", "a < b"},
+       {"a <", "a <"},
+       {"a <b", "a <b"},
+       {"1<2>3", "1<2>3"},
+       {"a > b", "a > b"},
+       {"<b><i>both</i></b>", "both"},
+       {"gr\xC3\xBCn", "gr\xC3\xBCn"}});
+
+TABLE_TEST(Markup, IsShownAs) {
+  EXPECT_EQ(headless::withoutMarkup(row().formatted), row().shown);
 }
-
-class Markup : public testing::TestWithParam<MarkupCase> {};
-
-TEST_P(Markup, IsShownAs) {
-  EXPECT_EQ(headless::withoutMarkup(GetParam().formatted), GetParam().shown);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, Markup,
-    testing::Values(MarkupCase{"", ""}, MarkupCase{"plain", "plain"}, MarkupCase{"<b>bold</b>", "bold"},
-                    MarkupCase{"<b>never closed", "never closed"}, MarkupCase{"kg.m<sup>-3</sup>", "kg.m-3"},
-                    MarkupCase{"one<br />two<br>three<br/>four", "one\ntwo\nthree\nfour"},
-                    MarkupCase{"<a href=\"page\">link</a>", "link"}, MarkupCase{"<div align=\"center\">a</div>", "a"},
-                    MarkupCase{"a < b", "a < b"}, MarkupCase{"a <", "a <"}, MarkupCase{"a <b", "a <b"},
-                    MarkupCase{"1<2>3", "1<2>3"}, MarkupCase{"a > b", "a > b"},
-                    MarkupCase{"<b><i>both</i></b>", "both"}, MarkupCase{"gr\xC3\xBCn", "gr\xC3\xBCn"}));
 
 using headless::textRuns;
 using ::testing::ElementsAre;

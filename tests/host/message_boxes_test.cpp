@@ -1,6 +1,7 @@
 #include "host/ui/message_boxes.h"
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -15,28 +16,26 @@ struct ButtonsCase {
   std::vector<DialogResults> possible;
 };
 
-class MessageBoxButtons : public testing::TestWithParam<ButtonsCase> {};
+class MessageBoxButtons : public testing::Test, public WithRow<ButtonsCase> {};
 
-TEST_P(MessageBoxButtons, DecideWhichAnswersThereAre) {
+TABLE(OfEveryKind, MessageBoxButtons, byName,
+      {{"Ok", OKButtonType, {DialogOK}},
+       {"OkCancel", OKCancelButtonType, {DialogOK, DialogCancel}},
+       {"RetryCancel", RetryCancelButtonType, {DialogCancel, DialogYes}},
+       {"YesNo", YesNoButtonType, {DialogYes, DialogNo}},
+       {"YesNoCancel", YesNoCancelButtonType, {DialogCancel, DialogYes, DialogNo}}});
+
+TABLE_TEST(MessageBoxButtons, DecideWhichAnswersThereAre) {
   std::vector<DialogResults> got;
   for (const DialogResults answer : {DialogOK, DialogCancel, DialogYes, DialogNo}) {
     MessageBoxes boxes;
     boxes.answerAlways(answer);
-    if (boxes.show({"", "", GetParam().buttons}) == answer) {
+    if (boxes.show({"", "", row().buttons}) == answer) {
       got.push_back(answer);
     }
   }
-  EXPECT_EQ(got, GetParam().possible);
+  EXPECT_EQ(got, row().possible);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    OfEveryKind, MessageBoxButtons,
-    testing::Values(ButtonsCase{"Ok", OKButtonType, {DialogOK}},
-                    ButtonsCase{"OkCancel", OKCancelButtonType, {DialogOK, DialogCancel}},
-                    ButtonsCase{"RetryCancel", RetryCancelButtonType, {DialogCancel, DialogYes}},
-                    ButtonsCase{"YesNo", YesNoButtonType, {DialogYes, DialogNo}},
-                    ButtonsCase{"YesNoCancel", YesNoCancelButtonType, {DialogCancel, DialogYes, DialogNo}}),
-    [](const auto& info) { return info.param.name; });
 
 const MessageBox question{"Sure?", "Title", YesNoButtonType, QuestionIconType};
 

@@ -1,6 +1,7 @@
 #include "host/ui/inputs.h"
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -72,10 +73,18 @@ struct FilterCase {
   std::vector<bool> passes;
 };
 
-class SelectionInputFilter : public SelectionInputs, public testing::WithParamInterface<FilterCase> {};
+class SelectionInputFilter : public SelectionInputs, public WithRow<FilterCase> {};
 
-TEST_P(SelectionInputFilter, LetsThroughWhatItNames) {
-  openWith(GetParam().filters);
+TABLE(Documented, SelectionInputFilter, byName,
+      {{"none", {}, {true, true, true, true, true}},
+       {"occurrences", {"Occurrences"}, {true, false, false, false, false}},
+       {"rootComponents", {"RootComponents"}, {false, false, false, true, false}},
+       {"bodies", {"Bodies"}, {false, true, false, false, false}},
+       {"faces", {"Faces"}, {false, false, true, false, false}},
+       {"bodiesOrFaces", {"Bodies", "Faces"}, {false, true, true, false, false}}});
+
+TABLE_TEST(SelectionInputFilter, LetsThroughWhatItNames) {
+  openWith(row().filters);
   const auto occurrence = root()->allOccurrences()->item(0);
   const auto body = root()->bRepBodies()->item(0);
   const std::vector<Ptr<Base>> candidates{occurrence, body, body->faces()->item(0), root(), occurrence->component()};
@@ -83,19 +92,9 @@ TEST_P(SelectionInputFilter, LetsThroughWhatItNames) {
   for (const Ptr<Base>& each : candidates) {
     passed.push_back(selection()->addSelection(each));
   }
-  EXPECT_EQ(passed, GetParam().passes);
+  EXPECT_EQ(passed, row().passes);
   EXPECT_EQ(selection()->selectionCount(), static_cast<std::size_t>(std::count(passed.begin(), passed.end(), true)));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Documented, SelectionInputFilter,
-    testing::Values(FilterCase{"none", {}, {true, true, true, true, true}},
-                    FilterCase{"occurrences", {"Occurrences"}, {true, false, false, false, false}},
-                    FilterCase{"rootComponents", {"RootComponents"}, {false, false, false, true, false}},
-                    FilterCase{"bodies", {"Bodies"}, {false, true, false, false, false}},
-                    FilterCase{"faces", {"Faces"}, {false, false, true, false, false}},
-                    FilterCase{"bodiesOrFaces", {"Bodies", "Faces"}, {false, true, true, false, false}}),
-    [](const auto& info) { return info.param.name; });
 
 TEST_F(SelectionInputs, TakeNothingByProgramWhileTheDialogIsBuilt) {
   open([this](const Inputs& inputs) {

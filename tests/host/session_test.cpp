@@ -2,6 +2,7 @@
 #include "host/runtime/session.h"
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -69,28 +70,30 @@ const std::vector<NamedAction> actions{
     {"chooseByName", "list", [](headless::Session& s, const std::string& id) { s.choose(id, "second"); }},
     {"chooseByIndex", "list", [](headless::Session& s, const std::string& id) { s.choose(id, 1); }}};
 
-class PersonsAction : public Person, public testing::WithParamInterface<NamedAction> {
+class PersonsAction : public Person, public WithRow<NamedAction> {
  protected:
   std::string act(const std::string& prefix = "") {
-    return refusalOf([&] { GetParam().act(session(), inputId(prefix, GetParam().input)); });
+    return refusalOf([&] { row().act(session(), inputId(prefix, row().input)); });
   }
   Ptr<GroupCommandInput> group(const std::string& id) const { return input<GroupCommandInput>(id); }
 };
 
-TEST_P(PersonsAction, IsReportedOnce) {
+TABLE(WithInputs, PersonsAction, byName, actions);
+
+TABLE_TEST(PersonsAction, IsReportedOnce) {
   EXPECT_EQ(act(), "");
-  EXPECT_EQ(log, Log({"inputChanged(" + GetParam().input + ")"}));
+  EXPECT_EQ(log, Log({"inputChanged(" + row().input + ")"}));
 }
 
-TEST_P(PersonsAction, IsRefusedWhereTheInputIsGreyedOutOrHidden) {
-  input<CommandInput>(GetParam().input)->isEnabled(false);
+TABLE_TEST(PersonsAction, IsRefusedWhereTheInputIsGreyedOutOrHidden) {
+  input<CommandInput>(row().input)->isEnabled(false);
   EXPECT_THAT(act(), testing::HasSubstr("it is greyed out"));
-  input<CommandInput>(GetParam().input)->isVisible(false);
+  input<CommandInput>(row().input)->isVisible(false);
   EXPECT_THAT(act(), testing::HasSubstr("it is hidden"));
   EXPECT_EQ(log, Log({}));
 }
 
-TEST_P(PersonsAction, IsRefusedInAGroupThatIsOutOfReach) {
+TABLE_TEST(PersonsAction, IsRefusedInAGroupThatIsOutOfReach) {
   const std::vector<std::pair<std::string, std::string>> refusals{{"inner", "the group inner is closed"},
                                                                   {"outer", "the group outer is closed"}};
   for (const auto& [id, reason] : refusals) {
@@ -112,15 +115,12 @@ TEST_P(PersonsAction, IsRefusedInAGroupThatIsOutOfReach) {
   EXPECT_EQ(act("deep"), "");
 }
 
-TEST_P(PersonsAction, IsRefusedForAnotherKindOfInputAndForNone) {
-  EXPECT_NE(refusalOf([&] { GetParam().act(session(), "selection"); }), "");
-  EXPECT_EQ(refusalOf([&] { GetParam().act(session(), "nothing"); }), "the dialog has no input nothing");
+TABLE_TEST(PersonsAction, IsRefusedForAnotherKindOfInputAndForNone) {
+  EXPECT_NE(refusalOf([&] { row().act(session(), "selection"); }), "");
+  EXPECT_EQ(refusalOf([&] { row().act(session(), "nothing"); }), "the dialog has no input nothing");
   session().pressCancel();
-  EXPECT_EQ(refusalOf([&] { GetParam().act(session(), "line"); }), "no dialog is open");
+  EXPECT_EQ(refusalOf([&] { row().act(session(), "line"); }), "no dialog is open");
 }
-
-INSTANTIATE_TEST_SUITE_P(WithInputs, PersonsAction, testing::ValuesIn(actions),
-                         [](const auto& info) { return info.param.name; });
 
 TEST_F(Person, TypesKeyByKey) {
   std::vector<std::string> seen;
@@ -355,30 +355,26 @@ struct PathCase {
   Log paths;
 };
 
-class PickablePaths : public HostTest, public testing::WithParamInterface<PathCase> {};
+class PickablePaths : public HostTest, public WithRow<PathCase> {};
 
-TEST_P(PickablePaths, NameEverythingOnce) {
+TABLE(OfAKind, PickablePaths, byName,
+      {{"Components",
+        PickKind::Component,
+        {"Frame:1", "Frame:1+Plate:1", "Frame:1+Bolt:1", "Frame:2", "Frame:2+Plate:1", "Frame:2+Bolt:1", "Bolt:2"}},
+       {"Bodies",
+        PickKind::Body,
+        {"Base", "Frame:1+Plate:1/Plate1", "Frame:1+Bolt:1/Shank", "Frame:1+Bolt:1/Head", "Frame:2+Plate:1/Plate1",
+         "Frame:2+Bolt:1/Shank", "Frame:2+Bolt:1/Head", "Bolt:2/Shank", "Bolt:2/Head"}}});
+
+TABLE_TEST(PickablePaths, NameEverythingOnce) {
   session().openDesign(machine());
   Log paths;
-  for (const headless::Pickable& each : session().pickables(GetParam().kind)) {
+  for (const headless::Pickable& each : session().pickables(row().kind)) {
     paths.push_back(each.path);
     EXPECT_EQ(headless::pathOf(headless::handleOf(each, *host().document()->entities)), each.path);
   }
-  EXPECT_EQ(paths, GetParam().paths);
+  EXPECT_EQ(paths, row().paths);
 }
-
-INSTANTIATE_TEST_SUITE_P(OfAKind, PickablePaths,
-                         testing::Values(PathCase{"Components",
-                                                  PickKind::Component,
-                                                  {"Frame:1", "Frame:1+Plate:1", "Frame:1+Bolt:1", "Frame:2",
-                                                   "Frame:2+Plate:1", "Frame:2+Bolt:1", "Bolt:2"}},
-                                         PathCase{
-                                             "Bodies",
-                                             PickKind::Body,
-                                             {"Base", "Frame:1+Plate:1/Plate1", "Frame:1+Bolt:1/Shank",
-                                              "Frame:1+Bolt:1/Head", "Frame:2+Plate:1/Plate1", "Frame:2+Bolt:1/Shank",
-                                              "Frame:2+Bolt:1/Head", "Bolt:2/Shank", "Bolt:2/Head"}}),
-                         [](const auto& info) { return info.param.name; });
 
 TEST_F(Person, PointsAtFacesByBodyAndNumber) {
   const auto faces = session().pickables(PickKind::Face);

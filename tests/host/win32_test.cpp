@@ -8,6 +8,7 @@
 #include <string>
 
 #include "host/win32/desktop.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -32,49 +33,44 @@ struct TextCase {
   std::string narrow;
 };
 
-void PrintTo(const TextCase& text, std::ostream* stream) {
-  *stream << text.narrow;
+class Conversion : public testing::Test, public WithRow<TextCase> {};
+
+TABLE(OfText, Conversion, byNumber,
+      {{L"", ""},
+       {L"plain", "plain"},
+       {L"\x7F\x80", "\x7F\xC2\x80"},
+       {L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80"},
+       {L"\xFFFD", "\xEF\xBF\xBD"},
+       {L"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"}});
+
+TABLE_TEST(Conversion, GoesBothWays) {
+  EXPECT_EQ(toNarrow(row().wide), row().narrow);
+  EXPECT_EQ(toWide(row().narrow), row().wide);
 }
-
-class Conversion : public testing::TestWithParam<TextCase> {};
-
-TEST_P(Conversion, GoesBothWays) {
-  EXPECT_EQ(toNarrow(GetParam().wide), GetParam().narrow);
-  EXPECT_EQ(toWide(GetParam().narrow), GetParam().wide);
-}
-
-INSTANTIATE_TEST_SUITE_P(OfText, Conversion,
-                         testing::Values(TextCase{L"", ""}, TextCase{L"plain", "plain"},
-                                         TextCase{L"\x7F\x80", "\x7F\xC2\x80"},
-                                         TextCase{L"\x7FF\x800", "\xDF\xBF\xE0\xA0\x80"},
-                                         TextCase{L"\xFFFD", "\xEF\xBF\xBD"},
-                                         TextCase{L"\U00010000\U0010FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"}));
 
 struct InvalidCase {
   std::string narrow;
   std::wstring wide;
 };
 
-void PrintTo(const InvalidCase& text, std::ostream* stream) {
-  *stream << testing::PrintToString(text.narrow);
+class InvalidBytes : public testing::Test, public WithRow<InvalidCase> {};
+
+TABLE(OfNarrowText, InvalidBytes, byNumber,
+      {{"a\x80z", L"a\xFFFDz"},
+       {"\xFF", L"\xFFFD"},
+       {"\xC3", L"\xFFFD"},
+       {"\xC3z", L"\xFFFDz"},
+       {"\xE2\x82", L"\xFFFD\xFFFD"},
+       {"\xC0\xAF", L"\xFFFD\xFFFD"},
+       {"\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
+       {"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
+       {"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+       {"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+       {"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"}});
+
+TABLE_TEST(InvalidBytes, BecomeReplacementCharacters) {
+  EXPECT_EQ(toWide(row().narrow), row().wide);
 }
-
-class InvalidBytes : public testing::TestWithParam<InvalidCase> {};
-
-TEST_P(InvalidBytes, BecomeReplacementCharacters) {
-  EXPECT_EQ(toWide(GetParam().narrow), GetParam().wide);
-}
-
-INSTANTIATE_TEST_SUITE_P(OfNarrowText, InvalidBytes,
-                         testing::Values(InvalidCase{"a\x80z", L"a\xFFFDz"}, InvalidCase{"\xFF", L"\xFFFD"},
-                                         InvalidCase{"\xC3", L"\xFFFD"}, InvalidCase{"\xC3z", L"\xFFFDz"},
-                                         InvalidCase{"\xE2\x82", L"\xFFFD\xFFFD"},
-                                         InvalidCase{"\xC0\xAF", L"\xFFFD\xFFFD"},
-                                         InvalidCase{"\xE0\x80\x80", L"\xFFFD\xFFFD\xFFFD"},
-                                         InvalidCase{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"},
-                                         InvalidCase{"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-                                         InvalidCase{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-                                         InvalidCase{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"}));
 
 TEST(Conversions, TellTheSizeThatIsNeeded) {
   EXPECT_EQ(WideCharToMultiByte(CP_ACP, 0, L"\xE4z", 2, nullptr, 0, nullptr, nullptr), 3);

@@ -1,6 +1,7 @@
 // The search for the look that an occurrence inherits: up its path, by name, nearest parent first.
 #include "tests/inspection/inspection_fixture.h"
 #include "tests/inspection/nested_design.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -16,10 +17,6 @@ struct PathCase {
   const char* picked;
   const char* text;
 };
-
-void PrintTo(const PathCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
 
 const std::vector<PathCase> pathCases = {
     {"NothingPainted", {}, "A:1+B:1+C:1", byMaterialText},
@@ -39,21 +36,20 @@ const std::vector<PathCase> pathCases = {
     {"ChildrenDoNotCount", {"A:1+B:1+C:1"}, "A:1+B:1", byMaterialText},
 };
 
-class AppearanceOnPath : public InspectionTest, public testing::WithParamInterface<PathCase> {};
+class AppearanceOnPath : public InspectionTest, public WithRow<PathCase> {};
 
-TEST_P(AppearanceOnPath, IsFoundUpwards) {
+TABLE(Paths, AppearanceOnPath, byName, pathCases);
+
+TABLE_TEST(AppearanceOnPath, IsFoundUpwards) {
   start(nestedDesign());
-  for (const std::string& path : GetParam().painted) {
+  for (const std::string& path : row().painted) {
     occurrence(path).appearance = look(path.substr(path.size() - 3, 1));
   }
   openDialog();
   pickOnly("Component");
-  session().pick(GetParam().picked);
-  EXPECT_EQ(appearanceText(), GetParam().text);
+  session().pick(row().picked);
+  EXPECT_EQ(appearanceText(), row().text);
 }
-
-INSTANTIATE_TEST_SUITE_P(Paths, AppearanceOnPath, testing::ValuesIn(pathCases),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 class ParentAppearance : public InspectionTest {};
 
@@ -124,23 +120,22 @@ TEST_F(ParentAppearance, SearchNeedsAnActiveDesign) {
   EXPECT_EQ(appearanceText(), byMaterialText);
 }
 
-class ParentAppearanceWithout : public InspectionTest, public testing::WithParamInterface<const char*> {};
+class ParentAppearanceWithout : public InspectionTest, public WithRow<const char*> {};
 
-TEST_P(ParentAppearanceWithout, SearchEndsQuietly) {
+TABLE(Host, ParentAppearanceWithout,
+      [](const auto& row) { return std::string(row) == "Design.rootComponent" ? "RootComponent" : "ActiveProduct"; },
+      {"Application.activeProduct", "Design.rootComponent"});
+
+TABLE_TEST(ParentAppearanceWithout, SearchEndsQuietly) {
   start(nestedDesign());
   occurrence("A:1").appearance = look("A");
   openDialog();
   pickOnly("Component");
-  answerNothingAt(GetParam());
+  answerNothingAt(row());
   session().pick("A:1+B:1");
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(appearanceText(), byMaterialText);
 }
-
-INSTANTIATE_TEST_SUITE_P(Host, ParentAppearanceWithout,
-                         testing::Values("Application.activeProduct", "Design.rootComponent"), [](const auto& info) {
-                           return std::string(info.param) == "Design.rootComponent" ? "RootComponent" : "ActiveProduct";
-                         });
 
 }  // namespace
 }  // namespace tests

@@ -4,6 +4,7 @@
 #include "tests/inspection/inspection_fixture.h"
 #include "tests/inspection/nested_design.h"
 #include "tests/inspection/stand_ins.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -21,12 +22,8 @@ struct SourceCase {
   const char* words;
 };
 
-void PrintTo(const SourceCase& value, std::ostream* stream) {
-  *stream << "code " << value.code << " while " << value.filter << "s are picked";
-}
-
-std::string nameOfCase(const testing::TestParamInfo<SourceCase>& info) {
-  return "Code" + std::to_string(info.param.code) + "While" + info.param.filter + "sArePicked";
+std::string nameOfCase(const SourceCase& source) {
+  return "Code" + std::to_string(source.code) + "While" + source.filter + "sArePicked";
 }
 
 std::vector<SourceCase> sourceCases() {
@@ -44,35 +41,35 @@ std::vector<SourceCase> sourceCases() {
   return cases;
 }
 
-class AppearanceSourceCode : public InspectionTest, public testing::WithParamInterface<SourceCase> {
+class AppearanceSourceCode : public InspectionTest, public WithRow<SourceCase> {
  protected:
   void SetUp() override {
     startDialog();
-    pickOnly(GetParam().filter);
+    pickOnly(row().filter);
   }
-  std::string expected() const { return std::string("<b>Red</b> - ") + GetParam().words; }
+  std::string expected() const { return std::string("<b>Red</b> - ") + row().words; }
 };
 
-TEST_P(AppearanceSourceCode, OfABodyInWords) {
+TABLE(AllCodes, AppearanceSourceCode, nameOfCase, sourceCases());
+
+TABLE_TEST(AppearanceSourceCode, OfABodyInWords) {
   const auto body = makeObject<StandInBody>();
   body->shown = handleOf(look("Red"));
-  body->source = GetParam().code;
+  body->source = row().code;
   body->madeOf = handleOf(headless::model::defaultMaterial());
   body->faceList = entities().body(this->body("Plate", "Plate1"), nullptr)->faces();
   pickUnfiltered(body);
   EXPECT_EQ(appearanceText(), expected());
 }
 
-TEST_P(AppearanceSourceCode, OfAFaceInWords) {
+TABLE_TEST(AppearanceSourceCode, OfAFaceInWords) {
   const auto face = makeObject<StandInFace>();
   face->shown = handleOf(look("Red"));
-  face->source = GetParam().code;
+  face->source = row().code;
   face->owner = entities().body(body("Plate", "Plate1"), nullptr);
   pickUnfiltered(face);
   EXPECT_EQ(appearanceText(), expected());
 }
-
-INSTANTIATE_TEST_SUITE_P(AllCodes, AppearanceSourceCode, testing::ValuesIn(sourceCases()), nameOfCase);
 
 class AppearanceSource : public InspectionTest {};
 
@@ -186,61 +183,54 @@ struct MissingCase {
   std::size_t nth;
 };
 
-void PrintTo(const MissingCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
+class AppearanceSourceMissing : public InspectionTest, public WithRow<MissingCase> {};
 
-class AppearanceSourceMissing : public InspectionTest, public testing::WithParamInterface<MissingCase> {};
+TABLE(Handles, AppearanceSourceMissing, byName,
+      {{"AppearanceOfABody", "Body", "A:1+B:1/Body1", "BRepBody.appearance", 1},
+       // The first is asked for by the inventory, as the body is painted.
+       {"AppearanceOfAPaintedBody", "Body", "A:1+B:1+C:1/Body1", "BRepBody.appearance", 2},
+       {"AppearanceOfAFace", "Face", "A:1+B:1/Body1/Face1", "BRepFace.appearance", 1},
+       {"ParentOfThatName", "Component", "A:1+B:1", "OccurrenceList.itemByName", 1},
+       {"ListOfAllOccurrences", "Component", "A:1+B:1", "Component.allOccurrences", 1},
+       {"ChosenFilterItemForCodeOne", "Body", "A:1+B:1+C:1/Body1", "ButtonRowCommandInput.selectedItem", 1}});
 
-TEST_P(AppearanceSourceMissing, RaisesAndLeavesTheTexts) {
+TABLE_TEST(AppearanceSourceMissing, RaisesAndLeavesTheTexts) {
   start(nestedDesign());
   occurrence("A:1").appearance = look("A");
   body("C", "Body1").appearance = look("Red");
   openDialog();
-  pickOnly(GetParam().filter);
-  session().pick(GetParam().picked);
+  pickOnly(row().filter);
+  session().pick(row().picked);
   const std::string appearanceBefore = appearanceText();
   const std::string materialBefore = materialText();
   ASSERT_NE(appearanceBefore, "");
   letGoSilently();
-  answerNothingAt(GetParam().call, GetParam().nth);
-  session().pick(GetParam().picked);
+  answerNothingAt(row().call, row().nth);
+  session().pick(row().picked);
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(takeErrorKinds(), nullAccess);
   EXPECT_EQ(appearanceText(), appearanceBefore);
   EXPECT_EQ(materialText(), materialBefore);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Handles, AppearanceSourceMissing,
-    testing::Values(MissingCase{"AppearanceOfABody", "Body", "A:1+B:1/Body1", "BRepBody.appearance", 1},
-                    // The first is asked for by the inventory, as the body is painted.
-                    MissingCase{"AppearanceOfAPaintedBody", "Body", "A:1+B:1+C:1/Body1", "BRepBody.appearance", 2},
-                    MissingCase{"AppearanceOfAFace", "Face", "A:1+B:1/Body1/Face1", "BRepFace.appearance", 1},
-                    MissingCase{"ParentOfThatName", "Component", "A:1+B:1", "OccurrenceList.itemByName", 1},
-                    MissingCase{"ListOfAllOccurrences", "Component", "A:1+B:1", "Component.allOccurrences", 1},
-                    MissingCase{"ChosenFilterItemForCodeOne", "Body", "A:1+B:1+C:1/Body1",
-                                "ButtonRowCommandInput.selectedItem", 1}),
-    [](const auto& info) { return std::string(info.param.name); });
+class AppearanceSourceOfImpostor : public InspectionTest, public WithRow<const char*> {};
 
-class AppearanceSourceOfImpostor : public InspectionTest, public testing::WithParamInterface<const char*> {};
+TABLE(Classes, AppearanceSourceOfImpostor,
+      [](const auto& row) {
+        const std::string text = row;
+        return text.substr(text.rfind(':') + 1);
+      },
+      {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
+       adsk::fusion::BRepFace::classType()});
 
-TEST_P(AppearanceSourceOfImpostor, RaisesAndLeavesTheTexts) {
+TABLE_TEST(AppearanceSourceOfImpostor, RaisesAndLeavesTheTexts) {
   startDialog();
   session().pick("Base");
   const std::string before = appearanceText();
-  pickUnfiltered(makeObject<Impostor>(GetParam()));
+  pickUnfiltered(makeObject<Impostor>(row()));
   EXPECT_EQ(takeErrorKinds(), nullAccess);
   EXPECT_EQ(appearanceText(), before);
 }
-
-INSTANTIATE_TEST_SUITE_P(Classes, AppearanceSourceOfImpostor,
-                         testing::Values(adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(),
-                                         adsk::fusion::BRepBody::classType(), adsk::fusion::BRepFace::classType()),
-                         [](const auto& info) {
-                           const std::string text = info.param;
-                           return text.substr(text.rfind(':') + 1);
-                         });
 
 class AppearanceSourceRoutines : public LinkedInspectionTest {
  protected:

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "tests/inspection/inventory_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -41,17 +42,11 @@ struct DesignCase {
   std::function<std::unique_ptr<Design>()> make;
 };
 
-void PrintTo(const DesignCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
-
-auto nameOfDesign = [](const auto& info) { return std::string(info.param.name); };
-
-class VisitedOnce : public InventoryTest, public testing::WithParamInterface<DesignCase> {
+class VisitedOnce : public InventoryTest, public WithRow<DesignCase> {
  protected:
   void SetUp() override {
     load();
-    session().openDesign(GetParam().make());
+    session().openDesign(row().make());
     for (const Occurrence* each : design().root().allOccurrences()) {
       ++occurrences;
       for (const auto& seen : each->component().bodies) {
@@ -75,13 +70,19 @@ class VisitedOnce : public InventoryTest, public testing::WithParamInterface<Des
   std::size_t faces = 0;
 };
 
-TEST_P(VisitedOnce, UnderTheRootComponent) {
+TABLE(Designs, VisitedOnce, byName,
+      {{"Machine", machine},
+       {"DeepReuse", deepReuseDesign},
+       {"Flat100", [] { return flatDesign(100); }},
+       {"Chain100", [] { return chainDesign(100); }}});
+
+TABLE_TEST(VisitedOnce, UnderTheRootComponent) {
   startCounting();
   collect({root()});
   expectEachAskedOnce();
 }
 
-TEST_P(VisitedOnce, WhenEveryOccurrenceIsSelectedToo) {
+TABLE_TEST(VisitedOnce, WhenEveryOccurrenceIsSelectedToo) {
   std::vector<Selected> selection{root()};
   for (Occurrence* each : design().root().allOccurrences()) {
     selection.push_back({nullptr, {"", each, nullptr, nullptr}});
@@ -95,7 +96,7 @@ TEST_P(VisitedOnce, WhenEveryOccurrenceIsSelectedToo) {
   expectEachAskedOnce();
 }
 
-TEST_P(VisitedOnce, WhenBodiesAndFacesAreSelectedToo) {
+TABLE_TEST(VisitedOnce, WhenBodiesAndFacesAreSelectedToo) {
   std::vector<Selected> selection{root()};
   for (const PickKind kind : {PickKind::Body, PickKind::Face}) {
     for (const Pickable& pickable : headless::pickablesOf(design(), kind)) {
@@ -114,12 +115,6 @@ TEST_P(VisitedOnce, WhenBodiesAndFacesAreSelectedToo) {
   expectEachAskedOnce();
 }
 
-INSTANTIATE_TEST_SUITE_P(Designs, VisitedOnce,
-                         testing::Values(DesignCase{"Machine", machine}, DesignCase{"DeepReuse", deepReuseDesign},
-                                         DesignCase{"Flat100", [] { return flatDesign(100); }},
-                                         DesignCase{"Chain100", [] { return chainDesign(100); }}),
-                         nameOfDesign);
-
 using Inventory = InventoryTest;
 
 TEST_F(Inventory, ReusedBodyIsAnObjectOfItsOwnInEachPlace) {
@@ -135,14 +130,10 @@ struct GrowthCase {
   std::unique_ptr<Design> (*make)(std::size_t);
 };
 
-void PrintTo(const GrowthCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
-
-class CallsPerObject : public InspectionTest, public testing::WithParamInterface<GrowthCase> {
+class CallsPerObject : public InspectionTest, public WithRow<GrowthCase> {
  protected:
   std::size_t callsToRefresh(std::size_t count) {
-    session().openDesign(GetParam().make(count));
+    session().openDesign(row().make(count));
     openDialog();
     letEverythingThrough();
     const Entity root = entities().component(design().root());
@@ -152,7 +143,9 @@ class CallsPerObject : public InspectionTest, public testing::WithParamInterface
   }
 };
 
-TEST_P(CallsPerObject, AreConstantAsTheDesignGrows) {
+TABLE(Designs, CallsPerObject, byName, {{"Flat", flatDesign}, {"Chain", chainDesign}});
+
+TABLE_TEST(CallsPerObject, AreConstantAsTheDesignGrows) {
   start();
   const std::size_t calls10 = callsToRefresh(10);
   const std::size_t calls100 = callsToRefresh(100);
@@ -162,19 +155,15 @@ TEST_P(CallsPerObject, AreConstantAsTheDesignGrows) {
   EXPECT_LE((calls400 - calls100) / 300, 20U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Designs, CallsPerObject,
-                         testing::Values(GrowthCase{"Flat", flatDesign}, GrowthCase{"Chain", chainDesign}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
 /// The deeper one would overflow the stack if anything went down it by calling itself; of the other one the names,
 /// which are paths, are short enough to write down each call.
-class DeepChain : public InspectionTest, public testing::WithParamInterface<std::size_t> {
+class DeepChain : public InspectionTest, public WithRow<std::size_t> {
  protected:
   static constexpr std::size_t depthOfJournal = 300;
 
   void SetUp() override {
-    hasJournal = GetParam() <= depthOfJournal;
-    start(chainDesign(GetParam()));
+    hasJournal = row() <= depthOfJournal;
+    start(chainDesign(row()));
     // Looks at both ends, so that there is something to find and to put back.
     deepest().appearance = look("Deepest");
     deepest().component().bodies.front()->faces.front()->appearance = look("Face");
@@ -188,12 +177,14 @@ class DeepChain : public InspectionTest, public testing::WithParamInterface<std:
   Body& deepestBody() { return *deepest().component().bodies.front(); }
 };
 
-TEST_P(DeepChain, IsTakenStockOf) {
+TABLE(Depths, DeepChain, [](std::size_t depth) { return std::to_string(depth); }, {300, 10'000});
+
+TABLE_TEST(DeepChain, IsTakenStockOf) {
   EXPECT_TRUE(isRemoveEnabled());
   EXPECT_EQ(appearanceText(), "Selected componet has appearance by assigned material.");
 }
 
-TEST_P(DeepChain, GetsAMaterialAndItsLooksBack) {
+TABLE_TEST(DeepChain, GetsAMaterialAndItsLooksBack) {
   session().expand("idGroupAppearance", false);
   session().click("idBtnApply");
   EXPECT_EQ(deepestBody().material->name, "Steel 37");
@@ -201,7 +192,7 @@ TEST_P(DeepChain, GetsAMaterialAndItsLooksBack) {
   EXPECT_EQ(ownLook(deepest()), "Deepest");
 }
 
-TEST_P(DeepChain, GetsAnAppearanceAndLosesTheOthersBelow) {
+TABLE_TEST(DeepChain, GetsAnAppearanceAndLosesTheOthersBelow) {
   session().expand("idGroupMaterial", false);
   session().answerNext(adsk::core::DialogYes);
   session().click("idBtnApply");
@@ -210,14 +201,12 @@ TEST_P(DeepChain, GetsAnAppearanceAndLosesTheOthersBelow) {
   EXPECT_EQ(ownLook(deepest()), "");
 }
 
-TEST_P(DeepChain, IsCleared) {
+TABLE_TEST(DeepChain, IsCleared) {
   session().click("idRemoveAssignAppearance");
   EXPECT_EQ(ownLook(deepestBody()), "");
   EXPECT_EQ(ownLook(*deepestBody().faces.front()), "");
   EXPECT_EQ(ownLook(deepest()), "");
 }
-
-INSTANTIATE_TEST_SUITE_P(Depths, DeepChain, testing::Values(300, 10'000), testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace tests

@@ -4,6 +4,7 @@
 
 #include "tests/inspection/inventory_fixture.h"
 #include "tests/support/seed.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -73,7 +74,7 @@ TEST_F(RandomInventory, DoesNotDependOnTheOrderOfTheSelection) {
 
 /// What Apply puts back, seen in the design: the looks of what was recorded stay, those of bodies that got a material
 /// without having been recorded go.
-class PutBack : public InspectionTest, public testing::WithParamInterface<std::string> {
+class PutBack : public InspectionTest, public WithRow<std::string> {
  protected:
   struct Looks {
     std::vector<std::string> occurrences;
@@ -140,9 +141,11 @@ class PutBack : public InspectionTest, public testing::WithParamInterface<std::s
   }
 };
 
-TEST_P(PutBack, LooksOfRandomAssembliesAreThoseOfThePlainWalk) {
+TABLE_OF_PROFILES(PutBack);
+
+TABLE_TEST(PutBack, LooksOfRandomAssembliesAreThoseOfThePlainWalk) {
   const unsigned seed = seedOfThisRun();
-  start(headless::profileNamed(GetParam()));
+  start(headless::profileNamed(row()));
   std::size_t applied = 0;
   for (unsigned round = 0; round < 30; ++round) {
     SCOPED_TRACE("round " + std::to_string(round));
@@ -169,8 +172,6 @@ TEST_P(PutBack, LooksOfRandomAssembliesAreThoseOfThePlainWalk) {
   }
   EXPECT_GT(applied, 15U);
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(PutBack);
 
 }  // namespace
 }  // namespace tests

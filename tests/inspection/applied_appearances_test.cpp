@@ -7,6 +7,7 @@
 
 #include "tests/inspection/inventory_fixture.h"
 #include "tests/inspection/stand_ins.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -21,10 +22,6 @@ struct RemoveCase {
   std::vector<std::string> picked;
   bool isEnabled;
 };
-
-void PrintTo(const RemoveCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
 
 std::shared_ptr<const headless::model::Appearance> redLook() {
   return std::make_shared<const headless::model::Appearance>(
@@ -42,50 +39,38 @@ auto paintedFace(const std::string& component, const std::string& body, std::siz
 }
 void nothingPainted(Design& /*design*/) {}
 
-class RemoveButton : public InspectionTest, public testing::WithParamInterface<RemoveCase> {};
+class RemoveButton : public InspectionTest, public WithRow<RemoveCase> {};
 
-TEST_P(RemoveButton, IsEnabledWhenSomethingAtOrBelowTheSelectionIsPainted) {
+TABLE(Selections, RemoveButton, byName,
+      {{"Body", paintedBody("Machine", "Base"), "Body", {"Base"}, true},
+       {"BodyWithPaintedFace", paintedFace("Machine", "Base", 1), "Body", {"Base"}, true},
+       {"BodySeenThroughAnotherOccurrence", paintedBody("Plate", "Plate1"), "Body", {"Frame:2+Plate:1/Plate1"}, true},
+       {"UntouchedBody", nothingPainted, "Body", {"Base"}, false},
+       {"UntouchedBodyBesideAPaintedOne", paintedBody("Bolt", "Head"), "Body", {"Bolt:2/Shank"}, false},
+       {"BodyOfAPaintedOccurrence", paintedOccurrence("Frame:1"), "Body", {"Frame:1+Plate:1/Plate1"}, false},
+       {"SecondOfTwoBodies", paintedBody("Bolt", "Head"), "Body", {"Base", "Bolt:2/Head"}, true},
+       {"Face", paintedFace("Machine", "Base", 0), "Face", {"Base/Face1"}, true},
+       {"FaceBesideAPaintedOne", paintedFace("Machine", "Base", 0), "Face", {"Base/Face2"}, false},
+       {"FaceOfAPaintedBody", paintedBody("Machine", "Base"), "Face", {"Base/Face1"}, false},
+       {"Occurrence", paintedOccurrence("Bolt:2"), "Component", {"Bolt:2"}, true},
+       {"OccurrenceWithPaintedChild", paintedOccurrence("Frame:1+Bolt:1"), "Component", {"Frame:1"}, true},
+       {"OccurrenceWithPaintedBody", paintedBody("Bolt", "Head"), "Component", {"Bolt:2"}, true},
+       {"OccurrenceWithPaintedFace", paintedFace("Bolt", "Head", 0), "Component", {"Bolt:2"}, true},
+       {"OccurrenceWithPaintedFaceFarBelow", paintedFace("Plate", "Plate1", 2), "Component", {"Frame:2"}, true},
+       {"OccurrenceUnderAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:1+Plate:1"}, false},
+       {"OccurrenceBesideAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:2"}, false},
+       {"UntouchedOccurrence", nothingPainted, "Component", {"Frame:1"}, false},
+       {"LastOfThreeOccurrences", paintedOccurrence("Bolt:2"), "Component", {"Frame:1", "Frame:2", "Bolt:2"}, true}});
+
+TABLE_TEST(RemoveButton, IsEnabledWhenSomethingAtOrBelowTheSelectionIsPainted) {
   start();
-  GetParam().paint(design());
+  row().paint(design());
   openDialog();
   EXPECT_FALSE(isRemoveEnabled());
-  pickOnly(GetParam().filter);
-  pickAll(GetParam().picked);
-  EXPECT_EQ(isRemoveEnabled(), GetParam().isEnabled);
+  pickOnly(row().filter);
+  pickAll(row().picked);
+  EXPECT_EQ(isRemoveEnabled(), row().isEnabled);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Selections, RemoveButton,
-    testing::Values(
-        RemoveCase{"Body", paintedBody("Machine", "Base"), "Body", {"Base"}, true},
-        RemoveCase{"BodyWithPaintedFace", paintedFace("Machine", "Base", 1), "Body", {"Base"}, true},
-        RemoveCase{"BodySeenThroughAnotherOccurrence",
-                   paintedBody("Plate", "Plate1"),
-                   "Body",
-                   {"Frame:2+Plate:1/Plate1"},
-                   true},
-        RemoveCase{"UntouchedBody", nothingPainted, "Body", {"Base"}, false},
-        RemoveCase{"UntouchedBodyBesideAPaintedOne", paintedBody("Bolt", "Head"), "Body", {"Bolt:2/Shank"}, false},
-        RemoveCase{"BodyOfAPaintedOccurrence", paintedOccurrence("Frame:1"), "Body", {"Frame:1+Plate:1/Plate1"}, false},
-        RemoveCase{"SecondOfTwoBodies", paintedBody("Bolt", "Head"), "Body", {"Base", "Bolt:2/Head"}, true},
-        RemoveCase{"Face", paintedFace("Machine", "Base", 0), "Face", {"Base/Face1"}, true},
-        RemoveCase{"FaceBesideAPaintedOne", paintedFace("Machine", "Base", 0), "Face", {"Base/Face2"}, false},
-        RemoveCase{"FaceOfAPaintedBody", paintedBody("Machine", "Base"), "Face", {"Base/Face1"}, false},
-        RemoveCase{"Occurrence", paintedOccurrence("Bolt:2"), "Component", {"Bolt:2"}, true},
-        RemoveCase{"OccurrenceWithPaintedChild", paintedOccurrence("Frame:1+Bolt:1"), "Component", {"Frame:1"}, true},
-        RemoveCase{"OccurrenceWithPaintedBody", paintedBody("Bolt", "Head"), "Component", {"Bolt:2"}, true},
-        RemoveCase{"OccurrenceWithPaintedFace", paintedFace("Bolt", "Head", 0), "Component", {"Bolt:2"}, true},
-        RemoveCase{
-            "OccurrenceWithPaintedFaceFarBelow", paintedFace("Plate", "Plate1", 2), "Component", {"Frame:2"}, true},
-        RemoveCase{"OccurrenceUnderAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:1+Plate:1"}, false},
-        RemoveCase{"OccurrenceBesideAPaintedOne", paintedOccurrence("Frame:1"), "Component", {"Frame:2"}, false},
-        RemoveCase{"UntouchedOccurrence", nothingPainted, "Component", {"Frame:1"}, false},
-        RemoveCase{"LastOfThreeOccurrences",
-                   paintedOccurrence("Bolt:2"),
-                   "Component",
-                   {"Frame:1", "Frame:2", "Bolt:2"},
-                   true}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 class AppliedAppearances : public InspectionTest {};
 
@@ -159,33 +144,33 @@ TEST_F(Inventory, KeepsTheFirstLookOfAFaceThatIsRecordedAgain) {
   EXPECT_EQ(tintora::appliedAppearances.faceOverrides.begin()->second->name(), "First");
 }
 
-class FaceRecord : public InventoryTest, public testing::WithParamInterface<int> {};
+class FaceRecord : public InventoryTest, public WithRow<int> {};
 
-TEST_P(FaceRecord, IsMadeForSourceThreeOnly) {
+TABLE(Sources, FaceRecord, byNumber, {0, 1, 2, 3, 4, 5});
+
+TABLE_TEST(FaceRecord, IsMadeForSourceThreeOnly) {
   load();
   const auto face = makeObject<StandInFace>();
-  face->source = GetParam();
+  face->source = row();
   face->shown = handleOf(look("Red"));
   tintora::recordFaceOverride(face);
-  EXPECT_EQ(tintora::appliedAppearances.faceOverrides.size(), GetParam() == 3 ? 1U : 0U);
+  EXPECT_EQ(tintora::appliedAppearances.faceOverrides.size(), row() == 3 ? 1U : 0U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sources, FaceRecord, testing::Range(0, 6));
+class BodyRecord : public InventoryTest, public WithRow<int> {};
 
-class BodyRecord : public InventoryTest, public testing::WithParamInterface<int> {};
+TABLE(Sources, BodyRecord, byNumber, {0, 1, 2, 3, 4, 5});
 
-TEST_P(BodyRecord, IsMadeForSourceOneOnly) {
+TABLE_TEST(BodyRecord, IsMadeForSourceOneOnly) {
   load();
   session().openDesign(machine());
   const auto standIn = makeObject<StandInBody>();
-  standIn->source = GetParam();
+  standIn->source = row();
   standIn->shown = handleOf(look("Red"));
   standIn->faceList = entities().body(body("Machine", "Base"), nullptr)->faces();
   tintora::collectAppliedAppearances({standIn});
-  EXPECT_EQ(tintora::appliedAppearances.bodyOverrides.size(), GetParam() == 1 ? 1U : 0U);
+  EXPECT_EQ(tintora::appliedAppearances.bodyOverrides.size(), row() == 1 ? 1U : 0U);
 }
-
-INSTANTIATE_TEST_SUITE_P(Sources, BodyRecord, testing::Range(0, 6));
 
 class InventoryInterrupted : public InventoryTest {
  protected:
@@ -248,9 +233,18 @@ TEST_F(InventoryInterrupted, EmptyEntityEndsItAndWhatCameBeforeStays) {
   EXPECT_TRUE(taken().occurrences.empty());
 }
 
-class InventoryMissing : public InspectionTest, public testing::WithParamInterface<const char*> {};
+class InventoryMissing : public InspectionTest, public WithRow<const char*> {};
 
-TEST_P(InventoryMissing, RaisesAndLeavesTextsAndButton) {
+TABLE(Calls, InventoryMissing,
+      [](const auto& row) {
+        std::string name = row;
+        name.erase(std::remove(name.begin(), name.end(), '.'), name.end());
+        return name;
+      },
+      {"Component.allOccurrences", "OccurrenceList.item", "Occurrence.childOccurrences", "Occurrence.bRepBodies",
+       "BRepBodies.item", "BRepBody.faces", "BRepFaces.item"});
+
+TABLE_TEST(InventoryMissing, RaisesAndLeavesTextsAndButton) {
   startDialog();
   session().pick("Base");
   const std::string appearanceBefore = appearanceText();
@@ -258,7 +252,7 @@ TEST_P(InventoryMissing, RaisesAndLeavesTextsAndButton) {
   letGoSilently();
   // Something to remove, which the button does not show yet.
   occurrence("Frame:1").appearance = look("Blue");
-  answerNothingAt(GetParam());
+  answerNothingAt(row());
   pickRoot();
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(takeErrorKinds(), nullAccess);
@@ -267,30 +261,20 @@ TEST_P(InventoryMissing, RaisesAndLeavesTextsAndButton) {
   EXPECT_FALSE(isRemoveEnabled());
 }
 
-INSTANTIATE_TEST_SUITE_P(Calls, InventoryMissing,
-                         testing::Values("Component.allOccurrences", "OccurrenceList.item",
-                                         "Occurrence.childOccurrences", "Occurrence.bRepBodies", "BRepBodies.item",
-                                         "BRepBody.faces", "BRepFaces.item"),
-                         [](const auto& info) {
-                           std::string name = info.param;
-                           name.erase(std::remove(name.begin(), name.end(), '.'), name.end());
-                           return name;
-                         });
+class InventoryOfImpostor : public InventoryTest, public WithRow<const char*> {};
 
-class InventoryOfImpostor : public InventoryTest, public testing::WithParamInterface<const char*> {};
+TABLE(Classes, InventoryOfImpostor,
+      [](const auto& row) {
+        const std::string text = row;
+        return text.substr(text.rfind(':') + 1);
+      },
+      {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
+       adsk::fusion::BRepFace::classType()});
 
-TEST_P(InventoryOfImpostor, Raises) {
+TABLE_TEST(InventoryOfImpostor, Raises) {
   load();
-  EXPECT_THROW(tintora::collectAppliedAppearances({makeObject<Impostor>(GetParam())}), std::exception);
+  EXPECT_THROW(tintora::collectAppliedAppearances({makeObject<Impostor>(row())}), std::exception);
 }
-
-INSTANTIATE_TEST_SUITE_P(Classes, InventoryOfImpostor,
-                         testing::Values(adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(),
-                                         adsk::fusion::BRepBody::classType(), adsk::fusion::BRepFace::classType()),
-                         [](const auto& info) {
-                           const std::string text = info.param;
-                           return text.substr(text.rfind(':') + 1);
-                         });
 
 }  // namespace
 }  // namespace tests

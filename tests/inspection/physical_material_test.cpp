@@ -6,6 +6,7 @@
 
 #include "tests/inspection/inspection_fixture.h"
 #include "tests/inspection/stand_ins.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -33,62 +34,55 @@ struct DensityCase {
   const char* shown;
 };
 
-void PrintTo(const DensityCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
+class MaterialDensity : public InspectionTest, public WithRow<DensityCase> {};
 
-class MaterialDensity : public InspectionTest, public testing::WithParamInterface<DensityCase> {};
+TABLE(Values, MaterialDensity, byName,
+      {{"Whole", 850.0, "850"},
+       {"Fraction", 850.9, "850"},
+       {"JustBelowAThousand", 999.99, "999"},
+       {"BelowOne", 0.25, "0"},
+       {"Zero", 0.0, "0"},
+       {"WithoutThousandsSeparator", 1234567.0, "1234567"},
+       {"Negative", -1.0, ""},
+       {"BarelyNegative", -1e-9, ""}});
 
-TEST_P(MaterialDensity, IsShownInWholeUnits) {
+TABLE_TEST(MaterialDensity, IsShownInWholeUnits) {
   start();
-  body("Machine", "Base").material = materialOf("Stuff", GetParam().density);
+  body("Machine", "Base").material = materialOf("Stuff", row().density);
   openDialog();
   session().pick("Base");
   EXPECT_EQ(materialText(),
-            std::string("Physical material: <b>Stuff</b>;  Density: ") + GetParam().shown + " kg.m<sup>-3</sup>");
+            std::string("Physical material: <b>Stuff</b>;  Density: ") + row().shown + " kg.m<sup>-3</sup>");
 }
-
-INSTANTIATE_TEST_SUITE_P(Values, MaterialDensity,
-                         testing::Values(DensityCase{"Whole", 850.0, "850"}, DensityCase{"Fraction", 850.9, "850"},
-                                         DensityCase{"JustBelowAThousand", 999.99, "999"},
-                                         DensityCase{"BelowOne", 0.25, "0"}, DensityCase{"Zero", 0.0, "0"},
-                                         DensityCase{"WithoutThousandsSeparator", 1234567.0, "1234567"},
-                                         DensityCase{"Negative", -1.0, ""}, DensityCase{"BarelyNegative", -1e-9, ""}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 struct LibraryCase {
   const char* material;
   const char* text;
 };
 
-void PrintTo(const LibraryCase& value, std::ostream* stream) {
-  *stream << value.material;
-}
+class MaterialOfALibrary : public InspectionTest, public WithRow<LibraryCase> {};
 
-class MaterialOfALibrary : public InspectionTest, public testing::WithParamInterface<LibraryCase> {};
+TABLE(Materials, MaterialOfALibrary,
+      [](const auto& row) {
+        std::string name = row.material;
+        name.erase(std::remove(name.begin(), name.end(), ' '), name.end());
+        return name;
+      },
+      {{"Steel 37", "Physical material: <b>Steel 37</b>;  Density: 7850 kg.m<sup>-3</sup>"},
+       {"Foam", "Physical material: <b>Foam</b>;  Density: 999 kg.m<sup>-3</sup>"},
+       {"Aerogel", "Physical material: <b>Aerogel</b>;  Density: 0 kg.m<sup>-3</sup>"},
+       {"Unknown alloy", "Physical material: <b>Unknown alloy"},
+       {"Odd alloy", "Physical material: <b>Odd alloy"},
+       {"Antimatter", "Physical material: <b>Antimatter</b>;  Density:  kg.m<sup>-3</sup>"}});
 
-TEST_P(MaterialOfALibrary, IsShownOnceApplied) {
+TABLE_TEST(MaterialOfALibrary, IsShownOnceApplied) {
   startDialog();
   session().pick("Base");
-  session().choose("idMaterialList", GetParam().material);
+  session().choose("idMaterialList", row().material);
   session().click("idBtnApply");
   session().pick("Base");
-  EXPECT_EQ(materialText(), GetParam().text);
+  EXPECT_EQ(materialText(), row().text);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Materials, MaterialOfALibrary,
-    testing::Values(LibraryCase{"Steel 37", "Physical material: <b>Steel 37</b>;  Density: 7850 kg.m<sup>-3</sup>"},
-                    LibraryCase{"Foam", "Physical material: <b>Foam</b>;  Density: 999 kg.m<sup>-3</sup>"},
-                    LibraryCase{"Aerogel", "Physical material: <b>Aerogel</b>;  Density: 0 kg.m<sup>-3</sup>"},
-                    LibraryCase{"Unknown alloy", "Physical material: <b>Unknown alloy"},
-                    LibraryCase{"Odd alloy", "Physical material: <b>Odd alloy"},
-                    LibraryCase{"Antimatter", "Physical material: <b>Antimatter</b>;  Density:  kg.m<sup>-3</sup>"}),
-    [](const auto& info) {
-      std::string name = info.param.material;
-      name.erase(std::remove(name.begin(), name.end(), ' '), name.end());
-      return name;
-    });
 
 class PhysicalMaterial : public InspectionTest {};
 
@@ -254,16 +248,19 @@ struct MissingMaterialCase {
   const char* call;
 };
 
-void PrintTo(const MissingMaterialCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
+class PhysicalMaterialMissing : public InspectionTest, public WithRow<MissingMaterialCase> {};
 
-class PhysicalMaterialMissing : public InspectionTest, public testing::WithParamInterface<MissingMaterialCase> {};
+TABLE(Handles, PhysicalMaterialMissing, byName,
+      {{"MaterialOfABody", "Body", "Base", "BRepBody.material"},
+       {"MaterialOfAFacesBody", "Face", "Base/Face1", "BRepBody.material"},
+       {"BodyOfAFace", "Face", "Base/Face1", "BRepFace.body"},
+       {"ComponentOfAnOccurrence", "Component", "Frame:1+Plate:1", "Occurrence.component"},
+       {"PropertiesOfAMaterial", "Body", "Base", "Material.materialProperties"}});
 
-TEST_P(PhysicalMaterialMissing, RaisesAndLeavesBothTexts) {
+TABLE_TEST(PhysicalMaterialMissing, RaisesAndLeavesBothTexts) {
   startDialog();
-  pickOnly(GetParam().filter);
-  session().pick(GetParam().picked);
+  pickOnly(row().filter);
+  session().pick(row().picked);
   const std::string appearanceBefore = appearanceText();
   const std::string materialBefore = materialText();
   letGoSilently();
@@ -274,23 +271,13 @@ TEST_P(PhysicalMaterialMissing, RaisesAndLeavesBothTexts) {
       each->appearance = look("Red");
     }
   }
-  answerNothingAt(GetParam().call);
-  session().pick(GetParam().picked);
+  answerNothingAt(row().call);
+  session().pick(row().picked);
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(takeErrorKinds(), nullAccess);
   EXPECT_EQ(appearanceText(), appearanceBefore);
   EXPECT_EQ(materialText(), materialBefore);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Handles, PhysicalMaterialMissing,
-    testing::Values(MissingMaterialCase{"MaterialOfABody", "Body", "Base", "BRepBody.material"},
-                    MissingMaterialCase{"MaterialOfAFacesBody", "Face", "Base/Face1", "BRepBody.material"},
-                    MissingMaterialCase{"BodyOfAFace", "Face", "Base/Face1", "BRepFace.body"},
-                    MissingMaterialCase{"ComponentOfAnOccurrence", "Component", "Frame:1+Plate:1",
-                                        "Occurrence.component"},
-                    MissingMaterialCase{"PropertiesOfAMaterial", "Body", "Base", "Material.materialProperties"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 struct NoErrorCase {
   const char* name;
@@ -300,27 +287,21 @@ struct NoErrorCase {
   const char* text;
 };
 
-void PrintTo(const NoErrorCase& value, std::ostream* stream) {
-  *stream << value.name;
-}
+class PhysicalMaterialWithout : public InspectionTest, public WithRow<NoErrorCase> {};
 
-class PhysicalMaterialWithout : public InspectionTest, public testing::WithParamInterface<NoErrorCase> {};
+TABLE(Answers, PhysicalMaterialWithout, byName,
+      {{"DensityProperty", "Body", "Base", "Properties.itemById", "Physical material: <b>Steel"},
+       {"MaterialOfAComponent", "Component", "Frame:1+Plate:1", "Component.material",
+        "Physical material: <b>various"}});
 
-TEST_P(PhysicalMaterialWithout, IsNoError) {
+TABLE_TEST(PhysicalMaterialWithout, IsNoError) {
   startDialog();
-  pickOnly(GetParam().filter);
-  answerNothingAt(GetParam().call);
-  session().pick(GetParam().picked);
+  pickOnly(row().filter);
+  answerNothingAt(row().call);
+  session().pick(row().picked);
   EXPECT_TRUE(host().gate().faultStruck());
-  EXPECT_EQ(materialText(), GetParam().text);
+  EXPECT_EQ(materialText(), row().text);
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, PhysicalMaterialWithout,
-                         testing::Values(NoErrorCase{"DensityProperty", "Body", "Base", "Properties.itemById",
-                                                     "Physical material: <b>Steel"},
-                                         NoErrorCase{"MaterialOfAComponent", "Component", "Frame:1+Plate:1",
-                                                     "Component.material", "Physical material: <b>various"}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 class PhysicalMaterialRoutine : public LinkedInspectionTest {
  protected:
@@ -335,20 +316,20 @@ TEST_F(PhysicalMaterialRoutine, NoEntityRaises) {
   EXPECT_THROW(tintora::describePhysicalMaterial({}), std::exception);
 }
 
-class PhysicalMaterialOfImpostor : public LinkedInspectionTest, public testing::WithParamInterface<const char*> {};
+class PhysicalMaterialOfImpostor : public LinkedInspectionTest, public WithRow<const char*> {};
 
-TEST_P(PhysicalMaterialOfImpostor, Raises) {
+TABLE(Classes, PhysicalMaterialOfImpostor,
+      [](const auto& row) {
+        const std::string text = row;
+        return text.substr(text.rfind(':') + 1);
+      },
+      {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
+       adsk::fusion::BRepFace::classType()});
+
+TABLE_TEST(PhysicalMaterialOfImpostor, Raises) {
   startDialog();
-  EXPECT_THROW(tintora::describePhysicalMaterial(makeObject<Impostor>(GetParam())), std::exception);
+  EXPECT_THROW(tintora::describePhysicalMaterial(makeObject<Impostor>(row())), std::exception);
 }
-
-INSTANTIATE_TEST_SUITE_P(Classes, PhysicalMaterialOfImpostor,
-                         testing::Values(adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(),
-                                         adsk::fusion::BRepBody::classType(), adsk::fusion::BRepFace::classType()),
-                         [](const auto& info) {
-                           const std::string text = info.param;
-                           return text.substr(text.rfind(':') + 1);
-                         });
 
 }  // namespace
 }  // namespace tests

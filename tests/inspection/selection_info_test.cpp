@@ -2,6 +2,7 @@
 #include "inspection/selection_info.h"
 
 #include "tests/inspection/inspection_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -293,7 +294,9 @@ TEST_F(SelectionInfoRoutine, EntitiesComeInTheOrderOfPicking) {
 
 class SelectionInfoUnderProfile : public AddInUnderProfile {};
 
-TEST_P(SelectionInfoUnderProfile, FollowsThePicks) {
+TABLE_OF_PROFILES(SelectionInfoUnderProfile);
+
+TABLE_TEST(SelectionInfoUnderProfile, FollowsThePicks) {
   start(profile());
   body("Bolt", "Head").appearance = look("Red");
   openDialog();
@@ -311,8 +314,6 @@ TEST_P(SelectionInfoUnderProfile, FollowsThePicks) {
   EXPECT_EQ(markup("idActMaterial"), "");
   EXPECT_FALSE(isEnabled("idRemoveAssignAppearance"));
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(SelectionInfoUnderProfile);
 
 }  // namespace
 }  // namespace tests

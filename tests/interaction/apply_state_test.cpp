@@ -2,6 +2,7 @@
 // group, one after a change of a list, one after "Set Appearance by Material".
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -43,7 +44,7 @@ const std::vector<ApplyState> applyStates = {
     {"NothingPickedNoAppearances", no, yes, yes, no, yes, no, no, yes},
 };
 
-class ApplyRules : public AddInTest, public ::testing::WithParamInterface<ApplyState> {
+class ApplyRules : public AddInTest, public WithRow<ApplyState> {
  protected:
   void bringAbout(const ApplyState& state) {
     addAppearanceLibrary("Empty.adsklib", "Empty looks", {});
@@ -70,30 +71,29 @@ class ApplyRules : public AddInTest, public ::testing::WithParamInterface<ApplyS
   }
 };
 
-TEST_P(ApplyRules, AfterTheSelectionOrAGroup) {
-  bringAbout(GetParam());
-  const bool expected = GetParam().afterSelectionOrGroup;
+TABLE(States, ApplyRules, byName, applyStates);
+
+TABLE_TEST(ApplyRules, AfterTheSelectionOrAGroup) {
+  bringAbout(row());
+  const bool expected = row().afterSelectionOrGroup;
   for (const char* changed : {"idSelection", "idGroupAppearance", "idGroupMaterial"}) {
     EXPECT_EQ(enabledAfterChangeOf(changed, !expected), expected) << changed;
   }
 }
 
-TEST_P(ApplyRules, AfterAList) {
-  bringAbout(GetParam());
-  const bool expected = GetParam().afterList;
+TABLE_TEST(ApplyRules, AfterAList) {
+  bringAbout(row());
+  const bool expected = row().afterList;
   for (const char* changed : {"idLibAssets", "idFilterAppearance", "idLibMaterials", "idFilterMaterial"}) {
     EXPECT_EQ(enabledAfterChangeOf(changed, !expected), expected) << changed;
   }
 }
 
-TEST_P(ApplyRules, AfterTheCheckBox) {
-  bringAbout(GetParam());
-  const bool expected = GetParam().afterCheckBox;
+TABLE_TEST(ApplyRules, AfterTheCheckBox) {
+  bringAbout(row());
+  const bool expected = row().afterCheckBox;
   EXPECT_EQ(enabledAfterChangeOf("idKeepAppearance", !expected), expected);
 }
-
-INSTANTIATE_TEST_SUITE_P(States, ApplyRules, ::testing::ValuesIn(applyStates),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 using ApplyButton = AddInTest;
 
@@ -158,23 +158,22 @@ struct FirstItem {
   bool isNothing;
 };
 
-class NothingToShow : public AddInTest, public ::testing::WithParamInterface<FirstItem> {};
+class NothingToShow : public AddInTest, public WithRow<FirstItem> {};
 
-TEST_P(NothingToShow, IsToldByTheExactNameOfTheFirstItem) {
-  addAppearanceLibrary("Odd.adsklib", "Odd names", GetParam().appearances);
+TABLE(Names, NothingToShow, byName,
+      {{"SameName", {nothingFound, "Gold"}, true},
+       {"SecondItem", {"Gold", nothingFound}, false},
+       {"LongerName", {"nothing found yet"}, false},
+       {"OtherCase", {"Nothing found"}, false}});
+
+TABLE_TEST(NothingToShow, IsToldByTheExactNameOfTheFirstItem) {
+  addAppearanceLibrary("Odd.adsklib", "Odd names", row().appearances);
   startDialog();
   session().pick("Base");
   session().choose("idLibAssets", "Odd names");
-  EXPECT_EQ(itemsOf("idAppearanceList"), GetParam().appearances);
-  EXPECT_EQ(isEnabled("idBtnApply"), !GetParam().isNothing);
+  EXPECT_EQ(itemsOf("idAppearanceList"), row().appearances);
+  EXPECT_EQ(isEnabled("idBtnApply"), !row().isNothing);
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, NothingToShow,
-                         ::testing::Values(FirstItem{"SameName", {nothingFound, "Gold"}, true},
-                                           FirstItem{"SecondItem", {"Gold", nothingFound}, false},
-                                           FirstItem{"LongerName", {"nothing found yet"}, false},
-                                           FirstItem{"OtherCase", {"Nothing found"}, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(ApplyButton, IsNotDecidedWhenAListHasNoItemAtAll) {
   removeLibraries("Materials");
@@ -189,7 +188,9 @@ TEST_F(ApplyButton, IsNotDecidedWhenAListHasNoItemAtAll) {
 
 class ApplyButtonUnderProfile : public AddInUnderProfile {};
 
-TEST_P(ApplyButtonUnderProfile, FollowsSelectionListsAndGroups) {
+TABLE_OF_PROFILES(ApplyButtonUnderProfile);
+
+TABLE_TEST(ApplyButtonUnderProfile, FollowsSelectionListsAndGroups) {
   startDialog(profile());
   session().pick("Base");
   EXPECT_TRUE(isEnabled("idBtnApply"));
@@ -204,8 +205,6 @@ TEST_P(ApplyButtonUnderProfile, FollowsSelectionListsAndGroups) {
   session().clearPicks();
   EXPECT_FALSE(isEnabled("idBtnApply"));
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(ApplyButtonUnderProfile);
 
 }  // namespace
 }  // namespace tests

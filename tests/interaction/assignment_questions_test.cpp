@@ -2,6 +2,7 @@
 // what the answers do.
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -101,50 +102,49 @@ TEST_F(AppearanceAssignment, OfABodyClearsAllItsFacesOnYes) {
 }
 
 /// Any answer but yes; an error stands for a box that nobody answered.
-class AnyOtherAnswer : public AppearanceAssignment, public ::testing::WithParamInterface<DialogResults> {};
+class AnyOtherAnswer : public AppearanceAssignment, public WithRow<DialogResults> {};
 
-TEST_P(AnyOtherAnswer, PaintsTheBodyAndLeavesItsFaces) {
+TABLE(Answers, AnyOtherAnswer, [](const auto& row) { return row == DialogNo ? "No" : "Error"; },
+      {DialogNo, DialogError});
+
+TABLE_TEST(AnyOtherAnswer, PaintsTheBodyAndLeavesItsFaces) {
   start();
   face("Machine", "Base", 1).appearance = look("Face paint");
-  session().answerNext(GetParam());
+  session().answerNext(row());
   EXPECT_THAT(paint("Body", {"Base"}), ElementsAre(lookSet("BRepBody(Base)", red)));
   EXPECT_EQ(session().messageBoxes().size(), 1U);
   EXPECT_EQ(ownLook(face("Machine", "Base", 1)), "Face paint");
   EXPECT_EQ(ownLook(body("Machine", "Base")), red);
 }
 
-TEST_P(AnyOtherAnswer, PaintsTheOccurrenceAndLeavesWhatIsBelow) {
+TABLE_TEST(AnyOtherAnswer, PaintsTheOccurrenceAndLeavesWhatIsBelow) {
   start();
   face("Bolt", "Head", 0).appearance = look("Face paint");
   body("Bolt", "Shank").appearance = look("Body paint");
-  session().answerNext(GetParam());
+  session().answerNext(row());
   EXPECT_THAT(paint("Component", {"Bolt:2"}), ElementsAre(lookSet("Occurrence(Bolt:2)", red)));
   EXPECT_EQ(session().messageBoxes().size(), 1U);
   EXPECT_EQ(ownLook(face("Bolt", "Head", 0)), "Face paint");
   EXPECT_EQ(ownLook(body("Bolt", "Shank")), "Body paint");
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, AnyOtherAnswer, ::testing::Values(DialogNo, DialogError),
-                         [](const auto& info) { return info.param == DialogNo ? "No" : "Error"; });
-
 struct PaintedFace {
   std::size_t index;
   std::size_t facesAsked;
 };
 
-class FaceOverrideTest : public AppearanceAssignment, public ::testing::WithParamInterface<PaintedFace> {};
+class FaceOverrideTest : public AppearanceAssignment, public WithRow<PaintedFace> {};
 
-TEST_P(FaceOverrideTest, StopsAtTheFirstPaintedFace) {
+TABLE(Faces, FaceOverrideTest, [](const auto& row) { return "Face" + std::to_string(row.index + 1); },
+      {{0, 1}, {1, 2}, {2, 3}});
+
+TABLE_TEST(FaceOverrideTest, StopsAtTheFirstPaintedFace) {
   start();
-  face("Plate", "Plate1", GetParam().index).appearance = look("Face paint");
+  face("Plate", "Plate1", row().index).appearance = look("Face paint");
   session().answerNext(DialogNo);
   paint("Body", {"Frame:1+Plate:1/Plate1"});
-  EXPECT_EQ(callsTo("appearanceSourceType()"), GetParam().facesAsked);
+  EXPECT_EQ(callsTo("appearanceSourceType()"), row().facesAsked);
 }
-
-INSTANTIATE_TEST_SUITE_P(Faces, FaceOverrideTest,
-                         ::testing::Values(PaintedFace{0, 1}, PaintedFace{1, 2}, PaintedFace{2, 3}),
-                         [](const auto& info) { return "Face" + std::to_string(info.param.index + 1); });
 
 TEST_F(AppearanceAssignment, AsksForEachBodyByItself) {
   start();
@@ -192,32 +192,36 @@ struct Below {
   bool isFace;
 };
 
-class PaintedBelow : public AppearanceAssignment, public ::testing::WithParamInterface<Below> {
+class PaintedBelow : public AppearanceAssignment, public WithRow<Below> {
  protected:
   void SetUp() override {
     start(chainDesign(3));
-    headless::model::Body& painted = body(GetParam().component, "Body1");
-    (GetParam().isFace ? painted.faces[0]->appearance : painted.appearance) = look("Paint");
+    headless::model::Body& painted = body(row().component, "Body1");
+    (row().isFace ? painted.faces[0]->appearance : painted.appearance) = look("Paint");
   }
 };
 
-TEST_P(PaintedBelow, IsFoundAtAnyDepth) {
+TABLE(Objects, PaintedBelow,
+      [](const auto& row) { return std::string(row.isFace ? "FaceOf" : "BodyOf") + row.component; },
+      {{"Link1", false}, {"Link1", true}, {"Link2", false}, {"Link2", true}, {"Link3", false}, {"Link3", true}});
+
+TABLE_TEST(PaintedBelow, IsFoundAtAnyDepth) {
   session().answerNext(DialogNo);
   paint("Component", {"Link1:1"});
   ASSERT_EQ(session().messageBoxes().size(), 1U);
   expectQuestion(session().messageBoxes().front(), aboutBodiesAndFaces);
 }
 
-TEST_P(PaintedBelow, EndsTheSearch) {
+TABLE_TEST(PaintedBelow, EndsTheSearch) {
   session().answerNext(DialogNo);
   paint("Component", {"Link1:1"});
   const Lines asked = containing("appearanceSourceType()", reactionTo("idBtnApply", trace));
-  EXPECT_THAT(asked.back(), HasSubstr(GetParam().isFace ? "-> 3" : "-> 1"));
-  EXPECT_THAT(asked.back(), HasSubstr(std::string(GetParam().component) + ":1+Body1"));
+  EXPECT_THAT(asked.back(), HasSubstr(row().isFace ? "-> 3" : "-> 1"));
+  EXPECT_THAT(asked.back(), HasSubstr(std::string(row().component) + ":1+Body1"));
   EXPECT_EQ(containing("-> 0", asked).size(), asked.size() - 1);
 }
 
-TEST_P(PaintedBelow, IsClearedDeepestFirstOnYesAndTheOccurrenceLast) {
+TABLE_TEST(PaintedBelow, IsClearedDeepestFirstOnYesAndTheOccurrenceLast) {
   session().answerNext(DialogYes);
   const std::string inner = "Link1:1+Link2:1+Link3:1";
   const std::string middle = "Link1:1+Link2:1";
@@ -227,16 +231,9 @@ TEST_P(PaintedBelow, IsClearedDeepestFirstOnYesAndTheOccurrenceLast) {
                           lookCleared("BRepFace(" + middle + "+Body1)"), lookCleared("Occurrence(" + middle + ")"),
                           lookCleared("BRepBody(Link1:1+Body1)"), lookCleared("BRepFace(Link1:1+Body1)"),
                           lookCleared("Occurrence(Link1:1)"), lookSet("Occurrence(Link1:1)", red)));
-  EXPECT_EQ(ownLook(body(GetParam().component, "Body1")), "");
-  EXPECT_EQ(ownLook(*body(GetParam().component, "Body1").faces[0]), "");
+  EXPECT_EQ(ownLook(body(row().component, "Body1")), "");
+  EXPECT_EQ(ownLook(*body(row().component, "Body1").faces[0]), "");
 }
-
-INSTANTIATE_TEST_SUITE_P(Objects, PaintedBelow,
-                         ::testing::Values(Below{"Link1", false}, Below{"Link1", true}, Below{"Link2", false},
-                                           Below{"Link2", true}, Below{"Link3", false}, Below{"Link3", true}),
-                         [](const auto& info) {
-                           return std::string(info.param.isFace ? "FaceOf" : "BodyOf") + info.param.component;
-                         });
 
 TEST_F(AppearanceAssignment, OfAnOccurrenceClearsBodiesAndFacesInTheirOrderOnYes) {
   start();
@@ -319,7 +316,9 @@ TEST_F(AppearanceAssignment, GoesOnAfterTheNoticeAboutTheRootComponent) {
 
 class QuestionsUnderProfile : public AddInUnderProfile {};
 
-TEST_P(QuestionsUnderProfile, YesPaintsTheWholeOccurrence) {
+TABLE_OF_PROFILES(QuestionsUnderProfile);
+
+TABLE_TEST(QuestionsUnderProfile, YesPaintsTheWholeOccurrence) {
   start(profile());
   occurrence("Frame:1+Bolt:1").appearance = look("Bolt paint");
   body("Bolt", "Shank").appearance = look("Body paint");
@@ -341,7 +340,7 @@ TEST_P(QuestionsUnderProfile, YesPaintsTheWholeOccurrence) {
   EXPECT_EQ(ownLook(*body("Bolt", "Head").faces[0]), "Face paint");
 }
 
-TEST_P(QuestionsUnderProfile, NoKeepsThePaintedFaces) {
+TABLE_TEST(QuestionsUnderProfile, NoKeepsThePaintedFaces) {
   start(profile());
   body("Machine", "Base").faces[0]->appearance = look("Face paint");
   openDialog();
@@ -355,7 +354,7 @@ TEST_P(QuestionsUnderProfile, NoKeepsThePaintedFaces) {
   EXPECT_EQ(ownLook(*body("Machine", "Base").faces[0]), "Face paint");
 }
 
-TEST_P(QuestionsUnderProfile, TheRootComponentIsExplainedAndLeftAsItIs) {
+TABLE_TEST(QuestionsUnderProfile, TheRootComponentIsExplainedAndLeftAsItIs) {
   startDialog(profile());
   assignAppearancesOnly(session());
   pickComponent(session(), design().root());
@@ -364,8 +363,6 @@ TEST_P(QuestionsUnderProfile, TheRootComponentIsExplainedAndLeftAsItIs) {
   EXPECT_EQ(session().messageBoxes().front().text, rootNotice);
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(QuestionsUnderProfile);
 
 }  // namespace
 }  // namespace tests

@@ -6,6 +6,7 @@
 #include "tests/support/addin_fixture.h"
 #include "tests/support/linked_dialog.h"
 #include "tests/support/linked_module_path.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -189,17 +190,16 @@ TEST_F(MaterialAssignment, OfABodyClearsItsLookAndLeavesItsFaces) {
   EXPECT_EQ(ownLook(*body("Machine", "Base").faces[1]), "Face paint");
 }
 
-class ClearingWithTheMaterial : public MaterialAssignment, public ::testing::WithParamInterface<bool> {};
+class ClearingWithTheMaterial : public MaterialAssignment, public WithRow<bool> {};
 
-TEST_P(ClearingWithTheMaterial, HappensWhateverTheCheckBoxSays) {
+TABLE(CheckBox, ClearingWithTheMaterial, [](const auto& row) { return row ? "Ticked" : "Unticked"; }, {false, true});
+
+TABLE_TEST(ClearingWithTheMaterial, HappensWhateverTheCheckBoxSays) {
   openForMaterial();
-  session().tick("idKeepAppearance", GetParam());
+  session().tick("idKeepAppearance", row());
   session().pick("Base");
   EXPECT_THAT(editsOfApply(), ElementsAre(materialSet("BRepBody(Base)", foam), lookCleared("BRepBody(Base)")));
 }
-
-INSTANTIATE_TEST_SUITE_P(CheckBox, ClearingWithTheMaterial, ::testing::Bool(),
-                         [](const auto& info) { return info.param ? "Ticked" : "Unticked"; });
 
 TEST_F(MaterialAssignment, OfAnOccurrenceGoesToBodiesThenChildrenThenItsComponent) {
   start(chainDesign(3));
@@ -269,52 +269,48 @@ struct LinkForMaterial {
   Lines edits;
 };
 
-class MissingForMaterial : public MaterialAssignment, public ::testing::WithParamInterface<LinkForMaterial> {};
+const std::string plateBody = "BRepBody(Frame:1+Plate:1+Plate1)";
+const Lines plateBodyOnly = {materialSet(plateBody, foam), lookCleared(plateBody)};
+const Lines plateOnly = {materialSet(plateBody, foam), lookCleared(plateBody), materialSet("Component(Plate)", foam)};
 
-TEST_P(MissingForMaterial, RaisesAndKeepsWhatWasAssignedBefore) {
+class MissingForMaterial : public MaterialAssignment, public WithRow<LinkForMaterial> {};
+
+TABLE(Links, MissingForMaterial, byName,
+      {{"Children", {2, FaultAnswer::Nothing, "Occurrence.childOccurrences"}, plateBodyOnly},
+       {"Child", {2, FaultAnswer::Nothing, "OccurrenceList.item"}, plateOnly},
+       {"Bodies", {2, FaultAnswer::Nothing, "Occurrence.bRepBodies"}, {}},
+       {"Body", {2, FaultAnswer::Nothing, "BRepBodies.item"}, plateOnly},
+       {"Component", {1, FaultAnswer::Nothing, "Occurrence.component"}, plateBodyOnly}});
+
+TABLE_TEST(MissingForMaterial, RaisesAndKeepsWhatWasAssignedBefore) {
   openForMaterial();
   pickAll(session(), "Component", {"Frame:1"});
-  host().gate().setFault(GetParam().fault);
-  EXPECT_EQ(editsOfApply(), GetParam().edits);
+  host().gate().setFault(row().fault);
+  EXPECT_EQ(editsOfApply(), row().edits);
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
 
-const std::string plateBody = "BRepBody(Frame:1+Plate:1+Plate1)";
-const Lines plateBodyOnly = {materialSet(plateBody, foam), lookCleared(plateBody)};
-const Lines plateOnly = {materialSet(plateBody, foam), lookCleared(plateBody), materialSet("Component(Plate)", foam)};
-
-INSTANTIATE_TEST_SUITE_P(
-    Links, MissingForMaterial,
-    ::testing::Values(
-        LinkForMaterial{"Children", {2, FaultAnswer::Nothing, "Occurrence.childOccurrences"}, plateBodyOnly},
-        LinkForMaterial{"Child", {2, FaultAnswer::Nothing, "OccurrenceList.item"}, plateOnly},
-        LinkForMaterial{"Bodies", {2, FaultAnswer::Nothing, "Occurrence.bRepBodies"}, {}},
-        LinkForMaterial{"Body", {2, FaultAnswer::Nothing, "BRepBodies.item"}, plateOnly},
-        LinkForMaterial{"Component", {1, FaultAnswer::Nothing, "Occurrence.component"}, plateBodyOnly}),
-    [](const auto& info) { return std::string(info.param.name); });
-
 /// What a picked component is taken for is looked up, and may be missing.
-class MissingForComponent : public MaterialAssignment, public ::testing::WithParamInterface<const char*> {};
+class MissingForComponent : public MaterialAssignment, public WithRow<const char*> {};
 
-TEST_P(MissingForComponent, RaisesAndAssignsNothing) {
+TABLE(Calls, MissingForComponent,
+      [](const auto& row) {
+        const std::string call = row;
+        return call.substr(call.find('.') + 1);
+      },
+      {"Application.activeProduct", "Design.rootComponent", "Component.occurrences"});
+
+TABLE_TEST(MissingForComponent, RaisesAndAssignsNothing) {
   openForMaterial();
   pickComponent(session(), design().root());
-  host().gate().setFault({1, FaultAnswer::Nothing, GetParam()});
+  host().gate().setFault({1, FaultAnswer::Nothing, row()});
   EXPECT_THAT(editsOfApply(), IsEmpty());
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
   EXPECT_TRUE(isEnabled("idBtnApply"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Calls, MissingForComponent,
-                         ::testing::Values("Application.activeProduct", "Design.rootComponent",
-                                           "Component.occurrences"),
-                         [](const auto& info) {
-                           const std::string call = info.param;
-                           return call.substr(call.find('.') + 1);
-                         });
 
 TEST_F(Assignment, OfAnAppearanceToAComponentRaisesWithoutAnActiveDesign) {
   openAndChoose();
@@ -430,17 +426,6 @@ struct FailedLookup {
   Lines edits;
 };
 
-class FailedLookups : public Assignment, public ::testing::WithParamInterface<FailedLookup> {};
-
-TEST_P(FailedLookups, AssignNothingInItsPlace) {
-  openAndChoose();
-  session().pick("Base");
-  host().gate().setFault(GetParam().fault);
-  EXPECT_EQ(editsOfApply(), GetParam().edits);
-  EXPECT_TRUE(host().gate().faultStruck());
-  EXPECT_FALSE(isEnabled("idBtnApply"));
-}
-
 const Lines withoutMaterial = {"BRepBody(Base).material=(none)", lookCleared("BRepBody(Base)"),
                                lookSet("BRepBody(Base)", red)};
 const Lines withoutAppearance = {materialSet("BRepBody(Base)", foam), lookCleared("BRepBody(Base)"),
@@ -448,17 +433,25 @@ const Lines withoutAppearance = {materialSet("BRepBody(Base)", foam), lookCleare
 // The settings read the four choices, the material its library and its own; the seventh is the appearance.
 constexpr std::size_t appearanceChoice = 7;
 
-INSTANTIATE_TEST_SUITE_P(
-    Lookups, FailedLookups,
-    ::testing::Values(
-        FailedLookup{"MaterialLibrary", {1, FaultAnswer::Nothing, "MaterialLibraries.itemByName"}, withoutMaterial},
-        FailedLookup{"Material", {1, FaultAnswer::Nothing, "Materials.itemByName"}, withoutMaterial},
-        FailedLookup{"AppearanceLibrary", {2, FaultAnswer::Nothing, "MaterialLibraries.itemByName"}, withoutAppearance},
-        FailedLookup{"Appearance", {1, FaultAnswer::Nothing, "Appearances.itemByName"}, withoutAppearance},
-        FailedLookup{"NoAppearanceChosen",
-                     {appearanceChoice, FaultAnswer::Nothing, "DropDownCommandInput.selectedItem"},
-                     withoutAppearance}),
-    [](const auto& info) { return std::string(info.param.name); });
+class FailedLookups : public Assignment, public WithRow<FailedLookup> {};
+
+TABLE(Lookups, FailedLookups, byName,
+      {{"MaterialLibrary", {1, FaultAnswer::Nothing, "MaterialLibraries.itemByName"}, withoutMaterial},
+       {"Material", {1, FaultAnswer::Nothing, "Materials.itemByName"}, withoutMaterial},
+       {"AppearanceLibrary", {2, FaultAnswer::Nothing, "MaterialLibraries.itemByName"}, withoutAppearance},
+       {"Appearance", {1, FaultAnswer::Nothing, "Appearances.itemByName"}, withoutAppearance},
+       {"NoAppearanceChosen",
+        {appearanceChoice, FaultAnswer::Nothing, "DropDownCommandInput.selectedItem"},
+        withoutAppearance}});
+
+TABLE_TEST(FailedLookups, AssignNothingInItsPlace) {
+  openAndChoose();
+  session().pick("Base");
+  host().gate().setFault(row().fault);
+  EXPECT_EQ(editsOfApply(), row().edits);
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_FALSE(isEnabled("idBtnApply"));
+}
 
 TEST_F(Assignment, OfAListThatShowsNothingClearsTheLook) {
   addAppearanceLibrary("Empty.adsklib", "Empty looks", {});
@@ -473,7 +466,9 @@ TEST_F(Assignment, OfAListThatShowsNothingClearsTheLook) {
 
 class AssignmentUnderProfile : public AddInUnderProfile {};
 
-TEST_P(AssignmentUnderProfile, GivesABodyMaterialAndAppearance) {
+TABLE_OF_PROFILES(AssignmentUnderProfile);
+
+TABLE_TEST(AssignmentUnderProfile, GivesABodyMaterialAndAppearance) {
   startDialog(profile());
   session().choose("idAppearanceList", red);
   session().choose("idMaterialList", foam);
@@ -486,7 +481,7 @@ TEST_P(AssignmentUnderProfile, GivesABodyMaterialAndAppearance) {
   EXPECT_THAT(host().gate().misuses(), IsEmpty());
 }
 
-TEST_P(AssignmentUnderProfile, GivesEveryPickedEntityItsShare) {
+TABLE_TEST(AssignmentUnderProfile, GivesEveryPickedEntityItsShare) {
   startDialog(profile());
   session().choose("idAppearanceList", red);
   session().choose("idMaterialList", foam);
@@ -501,7 +496,7 @@ TEST_P(AssignmentUnderProfile, GivesEveryPickedEntityItsShare) {
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
 
-TEST_P(AssignmentUnderProfile, PaintsAFaceAndGivesItsBodyTheMaterial) {
+TABLE_TEST(AssignmentUnderProfile, PaintsAFaceAndGivesItsBodyTheMaterial) {
   startDialog(profile());
   session().choose("idAppearanceList", red);
   session().choose("idMaterialList", foam);
@@ -514,8 +509,6 @@ TEST_P(AssignmentUnderProfile, PaintsAFaceAndGivesItsBodyTheMaterial) {
   EXPECT_EQ(ownLook(*body("Bolt", "Shank").faces[1]), "");
   EXPECT_EQ(body("Bolt", "Shank").material->name, "Steel");
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(AssignmentUnderProfile);
 
 }  // namespace
 }  // namespace tests

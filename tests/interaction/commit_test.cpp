@@ -2,6 +2,7 @@
 // step, whatever the host makes of "execute without ending".
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -38,13 +39,15 @@ std::string lookAfter(const std::string& button) {
   return button == applyButton ? "RAL 3000 Flame red" : "";
 }
 
-class Commit : public WithPaintedBase<AddInTest>, public ::testing::WithParamInterface<std::string> {
+class Commit : public WithPaintedBase<AddInTest>, public WithRow<std::string> {
  protected:
-  const std::string& button() const { return GetParam(); }
+  const std::string& button() const { return row(); }
 };
 
+TABLE(Buttons, Commit, byText, {applyButton, removeButton});
+
 // Where the selection stays, nothing but the reaction itself disables the buttons.
-TEST_P(Commit, DisablesApplyAndAfterARemovalTheRemoveButtonToo) {
+TABLE_TEST(Commit, DisablesApplyAndAfterARemovalTheRemoveButtonToo) {
   Profile profile;
   profile.editClearsSelection = EditClearsSelection::Never;
   openWithBasePicked(profile);
@@ -55,7 +58,7 @@ TEST_P(Commit, DisablesApplyAndAfterARemovalTheRemoveButtonToo) {
   EXPECT_EQ(isEnabled(removeButton), button() == applyButton);
 }
 
-TEST_P(Commit, ExecutesWithoutEndingAsItsLastCall) {
+TABLE_TEST(Commit, ExecutesWithoutEndingAsItsLastCall) {
   openWithBasePicked();
   const Lines reaction = reactionTo(button(), traceOf(session(), [&] { session().click(button()); }));
   ASSERT_GE(reaction.size(), 4U);
@@ -66,7 +69,7 @@ TEST_P(Commit, ExecutesWithoutEndingAsItsLastCall) {
   EXPECT_EQ(containing("doExecute", reaction).size(), 1U);
 }
 
-TEST_P(Commit, MakesOneUndoStepThatCanBeTakenBackAndDoneAgain) {
+TABLE_TEST(Commit, MakesOneUndoStepThatCanBeTakenBackAndDoneAgain) {
   openWithBasePicked();
   session().click(button());
   EXPECT_EQ(baseLook(), lookAfter(button()));
@@ -79,7 +82,7 @@ TEST_P(Commit, MakesOneUndoStepThatCanBeTakenBackAndDoneAgain) {
   EXPECT_EQ(baseLook(), lookAfter(button()));
 }
 
-TEST_P(Commit, LeavesTheDialogOpen) {
+TABLE_TEST(Commit, LeavesTheDialogOpen) {
   openWithBasePicked();
   const auto* command = activeCommand();
   session().click(button());
@@ -89,7 +92,7 @@ TEST_P(Commit, LeavesTheDialogOpen) {
   EXPECT_TRUE(isEnabled(applyButton));
 }
 
-TEST_P(Commit, OpensANewDialogWhereTheHostEndsTheCommand) {
+TABLE_TEST(Commit, OpensANewDialogWhereTheHostEndsTheCommand) {
   Profile profile;
   profile.executeInDialog = ExecuteInDialog::EndsCommand;
   openWithBasePicked(profile);
@@ -104,7 +107,7 @@ TEST_P(Commit, OpensANewDialogWhereTheHostEndsTheCommand) {
   EXPECT_TRUE(isEnabled(applyButton));
 }
 
-TEST_P(Commit, CallsNothingAfterTheHostEndedTheCommand) {
+TABLE_TEST(Commit, CallsNothingAfterTheHostEndedTheCommand) {
   Profile profile;
   profile.executeInDialog = ExecuteInDialog::EndsCommand;
   openWithBasePicked(profile);
@@ -112,7 +115,7 @@ TEST_P(Commit, CallsNothingAfterTheHostEndedTheCommand) {
   EXPECT_EQ(reaction.back(), "Command(idAssetsMatMng).doExecute(false) -> true");
 }
 
-TEST_P(Commit, LeavesNoDialogWhereTheHostEndsTheCommandAndRefusesToRestartIt) {
+TABLE_TEST(Commit, LeavesNoDialogWhereTheHostEndsTheCommandAndRefusesToRestartIt) {
   Profile profile;
   profile.executeInDialog = ExecuteInDialog::EndsCommand;
   profile.executeFromTerminated = headless::ExecuteFromTerminated::Refused;
@@ -131,7 +134,7 @@ Profile refusing() {
   return profile;
 }
 
-TEST_P(Commit, IgnoresThatExecutingIsRefused) {
+TABLE_TEST(Commit, IgnoresThatExecutingIsRefused) {
   openWithBasePicked(refusing());
   const Lines reaction = reactionTo(button(), traceOf(session(), [&] { session().click(button()); }));
   EXPECT_EQ(reaction.back(), "Command(idAssetsMatMng).doExecute(false) -> false");
@@ -141,7 +144,7 @@ TEST_P(Commit, IgnoresThatExecutingIsRefused) {
   EXPECT_FALSE(isEnabled(applyButton));
 }
 
-TEST_P(Commit, WhatWasNotExecutedIsRolledBackByCancel) {
+TABLE_TEST(Commit, WhatWasNotExecutedIsRolledBackByCancel) {
   openWithBasePicked(refusing());
   session().click(button());
   session().pressCancel();
@@ -149,7 +152,7 @@ TEST_P(Commit, WhatWasNotExecutedIsRolledBackByCancel) {
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
 
-TEST_P(Commit, WhatWasNotExecutedStaysWhereTheHostKeepsIt) {
+TABLE_TEST(Commit, WhatWasNotExecutedStaysWhereTheHostKeepsIt) {
   Profile profile = refusing();
   profile.cancelledChanges = CancelledChanges::Kept;
   openWithBasePicked(profile);
@@ -159,7 +162,7 @@ TEST_P(Commit, WhatWasNotExecutedStaysWhereTheHostKeepsIt) {
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
 
-TEST_P(Commit, DoesNotHappenAfterAnError) {
+TABLE_TEST(Commit, DoesNotHappenAfterAnError) {
   openWithBasePicked();
   host().gate().setFault({1, FaultAnswer::Exception, "BRepBody.appearance="});
   const Lines reaction = reactionTo(button(), traceOf(session(), [&] { session().click(button()); }));
@@ -170,12 +173,11 @@ TEST_P(Commit, DoesNotHappenAfterAnError) {
   EXPECT_EQ(baseLook(), "Old paint");
 }
 
-INSTANTIATE_TEST_SUITE_P(Buttons, Commit, ::testing::Values(applyButton, removeButton),
-                         [](const auto& info) { return info.param; });
-
 class CommitUnderProfile : public WithPaintedBase<AddInUnderProfile> {};
 
-TEST_P(CommitUnderProfile, ApplyAndRemoveAreOneUndoStepEach) {
+TABLE_OF_PROFILES(CommitUnderProfile);
+
+TABLE_TEST(CommitUnderProfile, ApplyAndRemoveAreOneUndoStepEach) {
   openWithBasePicked(profile());
   session().click(applyButton);
   EXPECT_EQ(baseLook(), "RAL 3000 Flame red");
@@ -193,8 +195,6 @@ TEST_P(CommitUnderProfile, ApplyAndRemoveAreOneUndoStepEach) {
   session().redo();
   EXPECT_EQ(baseLook(), "");
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(CommitUnderProfile);
 
 }  // namespace
 }  // namespace tests

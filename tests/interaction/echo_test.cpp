@@ -4,6 +4,7 @@
 
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -66,7 +67,7 @@ const std::vector<UserAction> userActions = {
     {"Remove", [](Session& s) { s.click("idRemoveAssignAppearance"); }},
 };
 
-class EchoedAction : public AddInTest, public ::testing::WithParamInterface<UserAction> {
+class EchoedAction : public AddInTest, public WithRow<UserAction> {
  protected:
   void SetUp() override {
     addAppearanceLibrary("More.adsklib", "More looks", {"Gold", "Silver"});
@@ -83,7 +84,7 @@ class EchoedAction : public AddInTest, public ::testing::WithParamInterface<User
     openDialog();
     session().choose("idLibMaterials", "Metals");
     session().pick("Base");
-    GetParam().run(session());
+    row().run(session());
     const std::string seen = screenText(session().dialog()) + "own look: " + ownLook(body("Machine", "Base")) +
                              ", material: " + body("Machine", "Base").material->name +
                              ", steps: " + std::to_string(history().undoSteps().size());
@@ -93,19 +94,18 @@ class EchoedAction : public AddInTest, public ::testing::WithParamInterface<User
   }
 };
 
-TEST_P(EchoedAction, EndsAsWithoutEchoWhenEchoesComeAtOnce) {
+TABLE(Actions, EchoedAction, byName, userActions);
+
+TABLE_TEST(EchoedAction, EndsAsWithoutEchoWhenEchoesComeAtOnce) {
   const std::string withoutEcho = screenAfterAction(Echo::None);
   EXPECT_EQ(screenAfterAction(Echo::AtOnce), withoutEcho);
 }
 
-TEST_P(EchoedAction, ComesToRestWhenEchoesComeLater) {
+TABLE_TEST(EchoedAction, ComesToRestWhenEchoesComeLater) {
   const std::string withoutEcho = screenAfterAction(Echo::None);
   const std::string withLateEcho = screenAfterAction(Echo::AfterEvent);
-  EXPECT_EQ(withLateEcho == withoutEcho, !GetParam().isUndoneByLateEcho);
+  EXPECT_EQ(withLateEcho == withoutEcho, !row().isUndoneByLateEcho);
 }
-
-INSTANTIATE_TEST_SUITE_P(Actions, EchoedAction, ::testing::ValuesIn(userActions),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 using EchoAtOnce = AddInTest;
 

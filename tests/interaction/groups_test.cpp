@@ -4,6 +4,7 @@
 
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -93,23 +94,22 @@ TEST_F(Groups, AnOpenGroupKeepsItsFilterAndList) {
   EXPECT_THAT(containing(".clear()", trace), IsEmpty());
 }
 
-class HeaderBox : public Groups, public ::testing::WithParamInterface<std::string> {};
+class HeaderBox : public Groups, public WithRow<std::string> {};
 
-TEST_P(HeaderBox, OfAnOpenGroupIsTickedAgain) {
+TABLE(Groups, HeaderBox, byText, {"idGroupAppearance", "idGroupMaterial"});
+
+TABLE_TEST(HeaderBox, OfAnOpenGroupIsTickedAgain) {
   startDialog();
-  session().tick(GetParam(), false);
-  EXPECT_TRUE(isTicked(GetParam()));
+  session().tick(row(), false);
+  EXPECT_TRUE(isTicked(row()));
 }
 
-TEST_P(HeaderBox, OfAClosedGroupIsUntickedAgain) {
+TABLE_TEST(HeaderBox, OfAClosedGroupIsUntickedAgain) {
   startDialog();
-  session().expand(GetParam(), false);
-  session().tick(GetParam(), true);
-  EXPECT_FALSE(isTicked(GetParam()));
+  session().expand(row(), false);
+  session().tick(row(), true);
+  EXPECT_FALSE(isTicked(row()));
 }
-
-INSTANTIATE_TEST_SUITE_P(Groups, HeaderBox, ::testing::Values("idGroupAppearance", "idGroupMaterial"),
-                         [](const auto& info) { return info.param; });
 
 TEST_F(Groups, ClosingSetsFilterThenListThenBoxThenApply) {
   startDialog();
@@ -180,7 +180,9 @@ class GroupsUnderProfile : public AddInUnderProfile {
   bool isTicked(const std::string& inputId) { return session().input(inputId).isTicked; }
 };
 
-TEST_P(GroupsUnderProfile, TheTwoWaysToGiveAnAppearanceExcludeEachOther) {
+TABLE_OF_PROFILES(GroupsUnderProfile);
+
+TABLE_TEST(GroupsUnderProfile, TheTwoWaysToGiveAnAppearanceExcludeEachOther) {
   startDialog(profile());
   session().tick("idKeepAppearance", true);
   EXPECT_TRUE(isTicked("idKeepAppearance"));
@@ -191,7 +193,7 @@ TEST_P(GroupsUnderProfile, TheTwoWaysToGiveAnAppearanceExcludeEachOther) {
   EXPECT_TRUE(isTicked("idGroupAppearance"));
 }
 
-TEST_P(GroupsUnderProfile, AClosedGroupIsUntickedWithItsFilterEmpty) {
+TABLE_TEST(GroupsUnderProfile, AClosedGroupIsUntickedWithItsFilterEmpty) {
   startDialog(profile());
   session().type("idFilterMaterial", "steel");
   session().expand("idGroupMaterial", false);
@@ -201,8 +203,6 @@ TEST_P(GroupsUnderProfile, AClosedGroupIsUntickedWithItsFilterEmpty) {
   EXPECT_TRUE(isTicked("idGroupMaterial"));
   EXPECT_EQ(itemsOf("idMaterialList").size(), metals.size());
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(GroupsUnderProfile);
 
 }  // namespace
 }  // namespace tests

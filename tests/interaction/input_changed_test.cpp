@@ -5,6 +5,7 @@
 
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -55,10 +56,13 @@ std::vector<DispatchedInput> dispatchedInputs() {
   return inputs;
 }
 
-class DispatchOrder : public AddInTest, public ::testing::WithParamInterface<DispatchedInput> {};
+class DispatchOrder : public AddInTest, public WithRow<DispatchedInput> {};
 
-TEST_P(DispatchOrder, RowsAreTriedInOrderUntilOneMatches) {
-  const DispatchedInput& changed = GetParam();
+TABLE(
+    Inputs, DispatchOrder, [](const auto& row) { return row.id; }, dispatchedInputs());
+
+TABLE_TEST(DispatchOrder, RowsAreTriedInOrderUntilOneMatches) {
+  const DispatchedInput& changed = row();
   startDialog();
   const Lines asked =
       idsAskedIn(reactionTo(changed.id, traceOf(session(), [&] { raiseChangeOf(session(), changed.id); })));
@@ -79,25 +83,20 @@ TEST_P(DispatchOrder, RowsAreTriedInOrderUntilOneMatches) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Inputs, DispatchOrder, ::testing::ValuesIn(dispatchedInputs()),
-                         [](const auto& info) { return info.param.id; });
+class InputsWithoutReaction : public AddInTest, public WithRow<std::string> {};
 
-class InputsWithoutReaction : public AddInTest, public ::testing::WithParamInterface<std::string> {};
+TABLE(Inputs, InputsWithoutReaction, byText,
+      {"idGroupSelect", "idActAppearance", "idAppearanceList", "idActMaterial", "idMaterialList"});
 
-TEST_P(InputsWithoutReaction, OnlyIdsAreCompared) {
+TABLE_TEST(InputsWithoutReaction, OnlyIdsAreCompared) {
   startDialog();
   session().pick("Base");
   const std::string before = screenText(session().dialog());
-  const Lines reaction = reactionTo(GetParam(), traceOf(session(), [&] { raiseChangeOf(session(), GetParam()); }));
+  const Lines reaction = reactionTo(row(), traceOf(session(), [&] { raiseChangeOf(session(), row()); }));
   EXPECT_THAT(reaction.front(), HasSubstr("InputChangedEventArgs.input()"));
   EXPECT_EQ(idsAskedIn(reaction).size(), reaction.size() - 1);
   EXPECT_EQ(screenText(session().dialog()), before);
 }
-
-INSTANTIATE_TEST_SUITE_P(Inputs, InputsWithoutReaction,
-                         ::testing::Values("idGroupSelect", "idActAppearance", "idAppearanceList", "idActMaterial",
-                                           "idMaterialList"),
-                         [](const auto& info) { return info.param; });
 
 using InputChanged = AddInTest;
 
@@ -217,12 +216,21 @@ TEST_F(HostSelectionFilter, MayHaveFewerThanThreeItems) {
   EXPECT_THAT(selectedItems(), ElementsAre(false, false));
 }
 
-class MissingLinkToHostFilter : public HostSelectionFilter, public ::testing::WithParamInterface<std::string> {};
+class MissingLinkToHostFilter : public HostSelectionFilter, public WithRow<std::string> {};
 
-TEST_P(MissingLinkToHostFilter, EndsTheReactionQuietly) {
+TABLE(Links, MissingLinkToHostFilter,
+      [](const auto& row) {
+        std::string name = row;
+        std::replace(name.begin(), name.end(), '.', '_');
+        return name;
+      },
+      {"UserInterface.commandDefinitions", "CommandDefinitions.itemById", "CommandDefinition.controlDefinition",
+       "ListControlDefinition.listItems", "ListItems.item"});
+
+TABLE_TEST(MissingLinkToHostFilter, EndsTheReactionQuietly) {
   startDialog();
   installList({"Everything", "Bodies", "Faces"});
-  host().gate().setFault({1, FaultAnswer::Nothing, GetParam()});
+  host().gate().setFault({1, FaultAnswer::Nothing, row()});
   const Lines reaction =
       reactionTo("idFilterSelect", traceOf(session(), [&] { session().choose("idFilterSelect", "Face"); }));
   EXPECT_TRUE(host().gate().faultStruck());
@@ -230,16 +238,6 @@ TEST_P(MissingLinkToHostFilter, EndsTheReactionQuietly) {
   EXPECT_THAT(selectedItems(), ElementsAre(false, false, false));
   EXPECT_EQ(session().input("idSelection").filters, Lines{"Faces"});
 }
-
-INSTANTIATE_TEST_SUITE_P(Links, MissingLinkToHostFilter,
-                         ::testing::Values("UserInterface.commandDefinitions", "CommandDefinitions.itemById",
-                                           "CommandDefinition.controlDefinition", "ListControlDefinition.listItems",
-                                           "ListItems.item"),
-                         [](const auto& info) {
-                           std::string name = info.param;
-                           std::replace(name.begin(), name.end(), '.', '_');
-                           return name;
-                         });
 
 // Rows 3 and 4: libraries and filters.
 
@@ -286,7 +284,9 @@ TEST_F(ListRefill, AnotherMaterialLibraryFillsTheMaterialListThroughItsFilter) {
 
 class InputChangedUnderProfile : public AddInUnderProfile {};
 
-TEST_P(InputChangedUnderProfile, FilterRowTextsAndListsFollowTheUser) {
+TABLE_OF_PROFILES(InputChangedUnderProfile);
+
+TABLE_TEST(InputChangedUnderProfile, FilterRowTextsAndListsFollowTheUser) {
   startDialog(profile());
   session().pick("Base");
   EXPECT_THAT(shown("idActMaterial"), HasSubstr("Steel"));
@@ -301,8 +301,6 @@ TEST_P(InputChangedUnderProfile, FilterRowTextsAndListsFollowTheUser) {
   EXPECT_TRUE(isEnabled("idBtnApply"));
   EXPECT_THAT(session().picked(), ElementsAre("Base/Face1"));
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(InputChangedUnderProfile);
 
 }  // namespace
 }  // namespace tests

@@ -1,6 +1,7 @@
 // The remove button: what it clears for each kind of entity, and what it leaves.
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -248,7 +249,7 @@ struct MissingObject {
   Lines left;
 };
 
-class MissingObjects : public Removal, public ::testing::WithParamInterface<MissingObject> {
+class MissingObjects : public Removal, public WithRow<MissingObject> {
  protected:
   /// What is painted of "Frame:1" and below it.
   Lines paintedBelowFrame() {
@@ -262,47 +263,44 @@ class MissingObjects : public Removal, public ::testing::WithParamInterface<Miss
   }
 };
 
-TEST_P(MissingObjects, ArePassedOver) {
+TABLE(Links, MissingObjects, byName,
+      {{"Children",
+        "Occurrence.childOccurrences",
+        2,
+        {"Frame:1+Plate:1", "Frame:1+Bolt:1", "Plate1", "Plate1#3", "Shank", "Shank#2", "Head", "Head#1"}},
+       {"Child", "OccurrenceList.item", 2, {"Frame:1+Plate:1", "Plate1", "Plate1#3"}},
+       {"Bodies", "Occurrence.bRepBodies", 3, {"Plate1", "Plate1#3"}},
+       {"Body", "BRepBodies.item", 2, {"Plate1", "Plate1#3"}},
+       {"Faces", "BRepBody.faces", 1, {"Plate1#3"}},
+       {"Face", "BRepFaces.item", 1, {"Plate1#1"}}});
+
+TABLE_TEST(MissingObjects, ArePassedOver) {
   openPainted();
   pickAll(session(), "Component", {"Frame:1"});
-  host().gate().setFault({1, FaultAnswer::Nothing, GetParam().call});
+  host().gate().setFault({1, FaultAnswer::Nothing, row().call});
   session().click(removeButton);
   EXPECT_TRUE(host().gate().faultStruck());
-  EXPECT_EQ(paintedBelowFrame(), GetParam().left);
+  EXPECT_EQ(paintedBelowFrame(), row().left);
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
 
-TEST_P(MissingObjects, ArePassedOverByApplyToo) {
+TABLE_TEST(MissingObjects, ArePassedOverByApplyToo) {
   openPainted();
   assignAppearancesOnly(session());
   session().choose("idAppearanceList", red);
   pickAll(session(), "Component", {"Frame:1"});
   session().answerNext(adsk::core::DialogYes);
-  host().gate().setFault({GetParam().nthInApply, FaultAnswer::Nothing, GetParam().call});
+  host().gate().setFault({row().nthInApply, FaultAnswer::Nothing, row().call});
   session().click(applyButton);
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(session().messageBoxes().size(), 1U);
   // The new look of the picked occurrence itself comes last.
   Lines left = {"Frame:1"};
-  left.insert(left.end(), GetParam().left.begin(), GetParam().left.end());
+  left.insert(left.end(), row().left.begin(), row().left.end());
   EXPECT_EQ(paintedBelowFrame(), left);
   EXPECT_EQ(ownLook(occurrence("Frame:1")), red);
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Links, MissingObjects,
-    ::testing::Values(MissingObject{"Children",
-                                    "Occurrence.childOccurrences",
-                                    2,
-                                    {"Frame:1+Plate:1", "Frame:1+Bolt:1", "Plate1", "Plate1#3", "Shank", "Shank#2",
-                                     "Head", "Head#1"}},
-                      MissingObject{"Child", "OccurrenceList.item", 2, {"Frame:1+Plate:1", "Plate1", "Plate1#3"}},
-                      MissingObject{"Bodies", "Occurrence.bRepBodies", 3, {"Plate1", "Plate1#3"}},
-                      MissingObject{"Body", "BRepBodies.item", 2, {"Plate1", "Plate1#3"}},
-                      MissingObject{"Faces", "BRepBody.faces", 1, {"Plate1#3"}},
-                      MissingObject{"Face", "BRepFaces.item", 1, {"Plate1#1"}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 /// A link that the host does not return while Apply looks for the one painted face, the last one below "Frame:1".
 struct LinkInSearch {
@@ -312,9 +310,22 @@ struct LinkInSearch {
   bool isFaceFound;
 };
 
-class MissingInSearch : public Removal, public ::testing::WithParamInterface<LinkInSearch> {};
+class MissingInSearch : public Removal, public WithRow<LinkInSearch> {};
 
-TEST_P(MissingInSearch, ArePassedOverByTheSearchForPaintedFaces) {
+TABLE(Links, MissingInSearch, byName,
+      {{"Children", "Occurrence.childOccurrences", 1, false},
+       {"OtherChild", "OccurrenceList.item", 1, true},
+       {"Child", "OccurrenceList.item", 2, false},
+       {"OtherBodies", "Occurrence.bRepBodies", 2, true},
+       {"Bodies", "Occurrence.bRepBodies", 3, false},
+       {"OtherBody", "BRepBodies.item", 2, true},
+       {"Body", "BRepBodies.item", 3, false},
+       {"OtherFaces", "BRepBody.faces", 2, true},
+       {"Faces", "BRepBody.faces", 3, false},
+       {"OtherFace", "BRepFaces.item", 5, true},
+       {"Face", "BRepFaces.item", 6, false}});
+
+TABLE_TEST(MissingInSearch, ArePassedOverByTheSearchForPaintedFaces) {
   start();
   headless::model::Face& face = *body("Bolt", "Head").faces[0];
   face.appearance = look("Paint");
@@ -323,27 +334,13 @@ TEST_P(MissingInSearch, ArePassedOverByTheSearchForPaintedFaces) {
   session().choose("idAppearanceList", red);
   pickAll(session(), "Component", {"Frame:1"});
   session().answerNext(adsk::core::DialogYes);
-  host().gate().setFault({GetParam().nth, FaultAnswer::Nothing, GetParam().call});
+  host().gate().setFault({row().nth, FaultAnswer::Nothing, row().call});
   session().click(applyButton);
   EXPECT_TRUE(host().gate().faultStruck());
-  EXPECT_EQ(session().messageBoxes().size(), GetParam().isFaceFound ? 1U : 0U);
-  EXPECT_EQ(ownLook(face), GetParam().isFaceFound ? "" : "Paint");
+  EXPECT_EQ(session().messageBoxes().size(), row().isFaceFound ? 1U : 0U);
+  EXPECT_EQ(ownLook(face), row().isFaceFound ? "" : "Paint");
   EXPECT_EQ(ownLook(occurrence("Frame:1")), red);
 }
-
-INSTANTIATE_TEST_SUITE_P(Links, MissingInSearch,
-                         ::testing::Values(LinkInSearch{"Children", "Occurrence.childOccurrences", 1, false},
-                                           LinkInSearch{"OtherChild", "OccurrenceList.item", 1, true},
-                                           LinkInSearch{"Child", "OccurrenceList.item", 2, false},
-                                           LinkInSearch{"OtherBodies", "Occurrence.bRepBodies", 2, true},
-                                           LinkInSearch{"Bodies", "Occurrence.bRepBodies", 3, false},
-                                           LinkInSearch{"OtherBody", "BRepBodies.item", 2, true},
-                                           LinkInSearch{"Body", "BRepBodies.item", 3, false},
-                                           LinkInSearch{"OtherFaces", "BRepBody.faces", 2, true},
-                                           LinkInSearch{"Faces", "BRepBody.faces", 3, false},
-                                           LinkInSearch{"OtherFace", "BRepFaces.item", 5, true},
-                                           LinkInSearch{"Face", "BRepFaces.item", 6, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // With Apply it is the same for a picked body.
 TEST_F(Removal, OfFacesThatAreMissingIsPassedOverByApply) {
@@ -386,7 +383,9 @@ TEST_F(Removal, OfABodyBesideAnyOtherKindOfEntityIsDone) {
 
 class RemovalUnderProfile : public WithPaintedMachine<AddInUnderProfile> {};
 
-TEST_P(RemovalUnderProfile, OfAnOccurrenceIsOneUndoStepThatBringsEverythingBack) {
+TABLE_OF_PROFILES(RemovalUnderProfile);
+
+TABLE_TEST(RemovalUnderProfile, OfAnOccurrenceIsOneUndoStepThatBringsEverythingBack) {
   openPainted(profile());
   pickAll(session(), "Component", {"Frame:1"});
   ASSERT_TRUE(isEnabled(removeButton));
@@ -403,7 +402,7 @@ TEST_P(RemovalUnderProfile, OfAnOccurrenceIsOneUndoStepThatBringsEverythingBack)
   EXPECT_THAT(host().gate().misuses(), IsEmpty());
 }
 
-TEST_P(RemovalUnderProfile, OfTheRootComponentClearsAllOccurrences) {
+TABLE_TEST(RemovalUnderProfile, OfTheRootComponentClearsAllOccurrences) {
   openPainted(profile());
   pickComponent(session(), design().root());
   session().click(removeButton);
@@ -412,15 +411,13 @@ TEST_P(RemovalUnderProfile, OfTheRootComponentClearsAllOccurrences) {
   EXPECT_EQ(painted(), everything);
 }
 
-TEST_P(RemovalUnderProfile, OfAFaceLeavesItsLook) {
+TABLE_TEST(RemovalUnderProfile, OfAFaceLeavesItsLook) {
   openPainted(profile());
   pickAll(session(), "Face", {"Base/Face1"});
   session().click(removeButton);
   EXPECT_EQ(painted(), everything);
   EXPECT_TRUE(session().isDialogOpen());
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(RemovalUnderProfile);
 
 }  // namespace
 }  // namespace tests

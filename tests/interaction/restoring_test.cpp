@@ -1,6 +1,7 @@
 // Putting recorded looks back after Apply: when the material was assigned and is not to give the look.
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -185,7 +186,9 @@ TEST_F(Restoring, GivesEverySelectedEntityItsShareThoughTheSelectionIsCleared) {
 
 class RestoringUnderProfile : public WithPaintedBolt<AddInUnderProfile> {};
 
-TEST_P(RestoringUnderProfile, KeepsTheLooksUnlessTheMaterialGivesThem) {
+TABLE_OF_PROFILES(RestoringUnderProfile);
+
+TABLE_TEST(RestoringUnderProfile, KeepsTheLooksUnlessTheMaterialGivesThem) {
   openWithPaintedBolt(profile());
   assignMaterialsOnly(session());
   pickAll(session(), "Component", {"Bolt:2"});
@@ -197,7 +200,7 @@ TEST_P(RestoringUnderProfile, KeepsTheLooksUnlessTheMaterialGivesThem) {
   EXPECT_EQ(history().undoSteps().size(), 1U);
 }
 
-TEST_P(RestoringUnderProfile, LeavesTheMaterialsLookWhereThatIsWanted) {
+TABLE_TEST(RestoringUnderProfile, LeavesTheMaterialsLookWhereThatIsWanted) {
   openWithPaintedBolt(profile());
   assignMaterialsOnly(session());
   session().tick("idKeepAppearance", true);
@@ -208,7 +211,7 @@ TEST_P(RestoringUnderProfile, LeavesTheMaterialsLookWhereThatIsWanted) {
   EXPECT_EQ(ownLook(headFace()), "Head paint");
 }
 
-TEST_P(RestoringUnderProfile, PutsLooksBackOverTheAssignedAppearance) {
+TABLE_TEST(RestoringUnderProfile, PutsLooksBackOverTheAssignedAppearance) {
   openWithPaintedBolt(profile());
   pickAll(session(), "Component", {"Bolt:2"});
   session().click("idBtnApply");
@@ -217,8 +220,6 @@ TEST_P(RestoringUnderProfile, PutsLooksBackOverTheAssignedAppearance) {
   EXPECT_EQ(ownLook(shank()), "Shank paint");
   EXPECT_EQ(ownLook(headFace()), "Head paint");
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(RestoringUnderProfile);
 
 }  // namespace
 }  // namespace tests

@@ -6,6 +6,7 @@
 
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -187,10 +188,14 @@ const std::vector<Task> tasks = {
      }},
 };
 
-class SurprisingHost : public Surprising, public ::testing::WithParamInterface<std::tuple<Surprise, Task>> {};
+class SurprisingHost : public Surprising, public WithRow<std::pair<Surprise, Task>> {};
 
-TEST_P(SurprisingHost, GivesTheUserTheSameResult) {
-  const auto& [surprise, task] = GetParam();
+TABLE(
+    Hosts, SurprisingHost, [](const auto& row) { return std::string(row.first.name) + "_" + row.second.name; },
+    everyPair(surprises, tasks));
+
+TABLE_TEST(SurprisingHost, GivesTheUserTheSameResult) {
+  const auto& [surprise, task] = row();
   openPainted(documentedProfile());
   const Lines before = design();
   task.run(session());
@@ -212,13 +217,7 @@ TEST_P(SurprisingHost, GivesTheUserTheSameResult) {
   EXPECT_EQ(design(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, SurprisingHost,
-                         ::testing::Combine(::testing::ValuesIn(surprises), ::testing::ValuesIn(tasks)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param).name) + "_" + std::get<1>(info.param).name;
-                         });
-
-class Habit : public Surprising, public ::testing::WithParamInterface<Surprise> {
+class Habit : public Surprising, public WithRow<Surprise> {
  protected:
   /// Calls and events of a task, sorted, as looks are put back in the order of addresses, and whose looks there are
   /// then.
@@ -244,10 +243,12 @@ class Habit : public Surprising, public ::testing::WithParamInterface<Surprise> 
   }
 };
 
+TABLE(Hosts, Habit, byName, {surprises.begin() + 1, surprises.end()});
+
 // A habit that no task brings out would be tested by nothing.
-TEST_P(Habit, IsSeenInOneTaskAtLeast) {
+TABLE_TEST(Habit, IsSeenInOneTaskAtLeast) {
   Profile profile;
-  GetParam().applyTo(profile);
+  row().applyTo(profile);
   Profile usual = documentedProfile();
   if (profile.executeClearsSelection) {
     // There an edit has cleared it already.
@@ -256,9 +257,6 @@ TEST_P(Habit, IsSeenInOneTaskAtLeast) {
   EXPECT_TRUE(std::any_of(tasks.begin(), tasks.end(),
                           [&](const Task& task) { return seenIn(task, profile) != seenIn(task, usual); }));
 }
-
-INSTANTIATE_TEST_SUITE_P(Hosts, Habit, ::testing::ValuesIn(surprises.begin() + 1, surprises.end()),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 using LimitedHost = Surprising;
 

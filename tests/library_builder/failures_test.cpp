@@ -3,6 +3,7 @@
 
 #include "host/libraries/native_library.h"
 #include "tests/library_builder/builder_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -107,78 +108,69 @@ struct EarlyFailure {
   bool hasDesign = false;
 };
 
-void PrintTo(const EarlyFailure& value, std::ostream* stream) {
-  *stream << value.call;
-}
+class BeforeTheFirstColour : public LibraryBuilderFailures, public WithRow<EarlyFailure> {};
 
-class BeforeTheFirstColour : public LibraryBuilderFailures, public testing::WithParamInterface<EarlyFailure> {};
+TABLE(Calls, BeforeTheFirstColour, byNumber,
+      {{"Application.materialLibraries", "material libraries"},
+       {"UserInterface.createProgressDialog", "progress dialog"},
+       {"ProgressDialog.show", "progress dialog", true},
+       {"Application.documents", "new design for the appearances cannot be made"},
+       {"Documents.add", "new design for the appearances cannot be made"},
+       {"Document.products", "new design does not give access"},
+       {"Products.itemByProductType", "new design does not give access"},
+       {"Design.appearances", "new design does not give access"}});
 
-TEST_P(BeforeTheFirstColour, IsToldAndMakesNothing) {
-  fail(GetParam().call);
+TABLE_TEST(BeforeTheFirstColour, IsToldAndMakesNothing) {
+  fail(row().call);
   EXPECT_FALSE(build());
   EXPECT_TRUE(host().gate().faultStruck());
-  EXPECT_THAT(messages(), ElementsAre(AllOf(HasSubstr(GetParam().message), HasSubstr("run the library builder"),
+  EXPECT_THAT(messages(), ElementsAre(AllOf(HasSubstr(row().message), HasSubstr("run the library builder"),
                                             Not(HasSubstr("of 216")))));
-  EXPECT_EQ(host().document() != nullptr, GetParam().hasDesign);
+  EXPECT_EQ(host().document() != nullptr, row().hasDesign);
   EXPECT_THAT(appearances(), IsEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Calls, BeforeTheFirstColour,
-                         testing::Values(EarlyFailure{"Application.materialLibraries", "material libraries"},
-                                         EarlyFailure{"UserInterface.createProgressDialog", "progress dialog"},
-                                         EarlyFailure{"ProgressDialog.show", "progress dialog", true},
-                                         EarlyFailure{"Application.documents",
-                                                      "new design for the appearances cannot be made"},
-                                         EarlyFailure{"Documents.add", "new design for the appearances cannot be made"},
-                                         EarlyFailure{"Document.products", "new design does not give access"},
-                                         EarlyFailure{"Products.itemByProductType", "new design does not give access"},
-                                         EarlyFailure{"Design.appearances", "new design does not give access"}));
 
 struct ColourFailure {
   std::string call;
   std::string message;
 };
 
-void PrintTo(const ColourFailure& value, std::ostream* stream) {
-  *stream << value.call;
-}
+class InTheMiddle : public LibraryBuilderFailures, public WithRow<ColourFailure> {};
 
-class InTheMiddle : public LibraryBuilderFailures, public testing::WithParamInterface<ColourFailure> {};
+TABLE(Calls, InTheMiddle, byNumber,
+      {{"Appearances.addByCopy", "could not be copied"},
+       {"Appearance.name", "another name"},
+       {"Appearance.appearanceProperties", "no colour property"},
+       {"Properties.itemById", "no colour property"},
+       {"Color.create", "refused"},
+       {"ColorProperty.value=", "refused"},
+       {"ColorProperty.value", "does not show the colour"},
+       {"Color.red", "does not show the colour"},
+       {"Color.green", "does not show the colour"},
+       {"Color.blue", "does not show the colour"}});
 
-TEST_P(InTheMiddle, NamesTheColourAndLeavesNothingHalfMade) {
+TABLE_TEST(InTheMiddle, NamesTheColourAndLeavesNothingHalfMade) {
   // From the eleventh colour on, whatever the number of such calls per colour.
   bool isSet = false;
   session().whileBusy([&] {
     if (session().progress().value == 10 && !isSet) {
       isSet = true;
-      fail(GetParam().call);
+      fail(row().call);
     }
   });
   EXPECT_FALSE(build());
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_EQ(appearances(), firstRows(10));
   EXPECT_FALSE(session().isProgressShown());
-  EXPECT_THAT(messages(), ElementsAre(AllOf(HasSubstr('"' + ralTable()[10].name + "\" cannot be made"),
-                                            HasSubstr(GetParam().message), HasSubstr("10 of 216"),
-                                            HasSubstr("Run the library builder again"))));
+  EXPECT_THAT(messages(),
+              ElementsAre(AllOf(HasSubstr('"' + ralTable()[10].name + "\" cannot be made"), HasSubstr(row().message),
+                                HasSubstr("10 of 216"), HasSubstr("Run the library builder again"))));
   // Running again makes the rest.
   session().whileBusy(nullptr);
   session().answerNext(adsk::core::DialogYes);
   EXPECT_TRUE(build());
   EXPECT_EQ(appearances(), ralTable());
 }
-
-INSTANTIATE_TEST_SUITE_P(Calls, InTheMiddle,
-                         testing::Values(ColourFailure{"Appearances.addByCopy", "could not be copied"},
-                                         ColourFailure{"Appearance.name", "another name"},
-                                         ColourFailure{"Appearance.appearanceProperties", "no colour property"},
-                                         ColourFailure{"Properties.itemById", "no colour property"},
-                                         ColourFailure{"Color.create", "refused"},
-                                         ColourFailure{"ColorProperty.value=", "refused"},
-                                         ColourFailure{"ColorProperty.value", "does not show the colour"},
-                                         ColourFailure{"Color.red", "does not show the colour"},
-                                         ColourFailure{"Color.green", "does not show the colour"},
-                                         ColourFailure{"Color.blue", "does not show the colour"}));
 
 TEST_F(LibraryBuilderFailures, SayWhatTheHostWouldNotDelete) {
   // The copy is made; then everything fails until the message.

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "tests/library_builder/builder_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -18,13 +19,12 @@ using testing::IsEmpty;
 enum class Open { Nothing, UnfinishedDesign };
 
 /// A run that is cancelled after a few colours and has a failing call, and one that is to complete them.
-class LibraryBuilderFaultSweep : public LibraryBuilderTest,
-                                 public testing::WithParamInterface<std::tuple<Open, FaultAnswer>> {
+class LibraryBuilderFaultSweep : public LibraryBuilderTest, public WithRow<std::pair<Open, FaultAnswer>> {
  protected:
   using CallCounts = std::map<std::string, std::size_t>;
 
-  static bool goesOn() { return std::get<Open>(GetParam()) == Open::UnfinishedDesign; }
-  static FaultAnswer answer() { return std::get<FaultAnswer>(GetParam()); }
+  bool goesOn() const { return std::get<Open>(row()) == Open::UnfinishedDesign; }
+  FaultAnswer answer() const { return std::get<FaultAnswer>(row()); }
 
   /// A fresh host, with what is to be open; whether to go on with it is answered with yes.
   void prepare() {
@@ -105,7 +105,17 @@ class LibraryBuilderFaultSweep : public LibraryBuilderTest,
   std::size_t messagesBefore = 0;
 };
 
-TEST_P(LibraryBuilderFaultSweep, LeavesNothingBroken) {
+TABLE(
+    Answers, LibraryBuilderFaultSweep,
+    [](const auto& row) {
+      const bool raises = std::get<FaultAnswer>(row) == FaultAnswer::Exception;
+      const bool goesOn = std::get<Open>(row) == Open::UnfinishedDesign;
+      return std::string(goesOn ? "GoingOn" : "Anew") + (raises ? "Exception" : "Nothing");
+    },
+    everyPair(std::vector{Open::Nothing, Open::UnfinishedDesign},
+              std::vector{FaultAnswer::Nothing, FaultAnswer::Exception}));
+
+TABLE_TEST(LibraryBuilderFaultSweep, LeavesNothingBroken) {
   const CallCounts counts = faultless();
   EXPECT_GT(counts.size(), 30U);
   EXPECT_EQ(counts.count("Documents.add"), goesOn() ? 0U : 1U);
@@ -117,15 +127,6 @@ TEST_P(LibraryBuilderFaultSweep, LeavesNothingBroken) {
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, LibraryBuilderFaultSweep,
-                         testing::Combine(testing::Values(Open::Nothing, Open::UnfinishedDesign),
-                                          testing::Values(FaultAnswer::Nothing, FaultAnswer::Exception)),
-                         [](const auto& info) {
-                           const bool raises = std::get<FaultAnswer>(info.param) == FaultAnswer::Exception;
-                           const bool goesOn = std::get<Open>(info.param) == Open::UnfinishedDesign;
-                           return std::string(goesOn ? "GoingOn" : "Anew") + (raises ? "Exception" : "Nothing");
-                         });
 
 }  // namespace
 }  // namespace tests

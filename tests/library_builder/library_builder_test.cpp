@@ -6,6 +6,7 @@
 #include "tests/library_builder/builder_fixture.h"
 #include "tests/robustness/module_exports.h"
 #include "tests/support/designs.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -182,19 +183,18 @@ TEST_F(LibraryBuilder, ExportsItsEntryPointOnly) {
   EXPECT_THAT(exportedNames(libraryBuilderModule()), ElementsAre("run"));
 }
 
-class LibraryBuilderUnderProfile : public LibraryBuilderTest, public testing::WithParamInterface<std::string> {};
+class LibraryBuilderUnderProfile : public LibraryBuilderTest, public WithRow<std::string> {};
 
-TEST_P(LibraryBuilderUnderProfile, MakesAndCompletesAll) {
-  start(headless::profileNamed(GetParam()));
+TABLE(Profiles, LibraryBuilderUnderProfile, byText, headless::profileNames());
+
+TABLE_TEST(LibraryBuilderUnderProfile, MakesAndCompletesAll) {
+  start(headless::profileNamed(row()));
   EXPECT_TRUE(buildAndCancelAfter(5));
   EXPECT_EQ(appearances(), firstRows(5));
   session().answerNext(adsk::core::DialogYes);
   EXPECT_TRUE(build());
   EXPECT_EQ(appearances(), ralTable());
 }
-
-INSTANTIATE_TEST_SUITE_P(Profiles, LibraryBuilderUnderProfile, testing::ValuesIn(headless::profileNames()),
-                         [](const auto& info) { return info.param; });
 
 }  // namespace
 }  // namespace tests

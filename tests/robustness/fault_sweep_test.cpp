@@ -13,6 +13,7 @@
 #include "tests/robustness/scenario.h"
 #include "tests/support/addin_fixture.h"
 #include "tests/support/journal.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -126,7 +127,7 @@ TEST_F(FaultSweep, SittingWithoutFaultsUsesEverything) {
   EXPECT_GT(faultless.callsByName.size(), 100U);
 }
 
-class WholeSitting : public FaultSweep, public testing::WithParamInterface<std::string> {
+class WholeSitting : public FaultSweep, public WithRow<std::string> {
  protected:
   std::string journalOfASitting() {
     folder.remove(settingsFile());
@@ -134,8 +135,10 @@ class WholeSitting : public FaultSweep, public testing::WithParamInterface<std::
   }
 };
 
-TEST_P(WholeSitting, MakesTheSameCallsEveryTime) {
-  profile = headless::profileNamed(GetParam());
+TABLE_OF_PROFILES(WholeSitting);
+
+TABLE_TEST(WholeSitting, MakesTheSameCallsEveryTime) {
+  profile = headless::profileNamed(row());
   const std::string journal = journalOfASitting();
   EXPECT_GT(std::count(journal.begin(), journal.end(), '\n'), 1000);
   EXPECT_EQ(journal, journalOfASitting());
@@ -143,8 +146,6 @@ TEST_P(WholeSitting, MakesTheSameCallsEveryTime) {
     keepJournal(journal, folder.path());
   }
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(WholeSitting);
 
 /// Which call of each name fails.
 enum class Which { First, Last };
@@ -173,10 +174,13 @@ std::vector<SweepCase> sweepCases() {
   return cases;
 }
 
-class FaultSweepByName : public FaultSweep, public testing::WithParamInterface<SweepCase> {};
+class FaultSweepByName : public FaultSweep, public WithRow<SweepCase> {};
 
-TEST_P(FaultSweepByName, LeavesNothingBroken) {
-  const auto& [profileName, answer, which] = GetParam();
+TABLE(
+    Calls, FaultSweepByName, [](const auto& row) { return testing::PrintToString(row); }, sweepCases());
+
+TABLE_TEST(FaultSweepByName, LeavesNothingBroken) {
+  const auto& [profileName, answer, which] = row();
   useProfile(headless::profileNamed(profileName));
   for (const auto& [name, count] : faultless.callsByName) {
     // Each call once: where there is one of a name, the first is also the last.
@@ -185,9 +189,6 @@ TEST_P(FaultSweepByName, LeavesNothingBroken) {
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Calls, FaultSweepByName, testing::ValuesIn(sweepCases()),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
 
 /// How many faults lie between two that are tried: 1 tries each and every one, which takes some minutes.
 std::size_t sweepStride() {

@@ -9,6 +9,7 @@
 #include "tests/support/addin_fixture.h"
 #include "tests/support/journal.h"
 #include "tests/support/seed.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -35,13 +36,15 @@ std::vector<std::string> linesOf(const std::string& text) {
   return lines;
 }
 
-class RandomUserUnderProfile : public RandomUserTest, public testing::WithParamInterface<std::string> {};
+class RandomUserUnderProfile : public RandomUserTest, public WithRow<std::string> {};
 
-TEST_P(RandomUserUnderProfile, DoesNoHarm) {
+TABLE_OF_PROFILES(RandomUserUnderProfile);
+
+TABLE_TEST(RandomUserUnderProfile, DoesNoHarm) {
   constexpr unsigned sittings = 12;
   constexpr std::size_t actionsEach = 300;
   const unsigned seed = seedOfThisRun();
-  const RandomUser user(folder.module(), headless::profileNamed(GetParam()));
+  const RandomUser user(folder.module(), headless::profileNamed(row()));
   for (unsigned sitting = 0; sitting < sittings; ++sitting) {
     const std::vector<UserAction> actions = randomActions(seed + sitting, actionsEach);
     if (!user.troubleWith(actions).empty()) {
@@ -50,8 +53,6 @@ TEST_P(RandomUserUnderProfile, DoesNoHarm) {
     }
   }
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(RandomUserUnderProfile);
 
 TEST_F(RandomUserTest, SeesTroubleAndTellsTheShortestWayToIt) {
   const Check facePicked = [](Session& session) -> std::vector<std::string> {

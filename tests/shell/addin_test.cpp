@@ -1,4 +1,5 @@
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -10,7 +11,9 @@ using ::testing::IsEmpty;
 
 class AddInUnderEachProfile : public AddInUnderProfile {};
 
-TEST_P(AddInUnderEachProfile, RunRegistersAndStopRemovesEverything) {
+TABLE_OF_PROFILES(AddInUnderEachProfile);
+
+TABLE_TEST(AddInUnderEachProfile, RunRegistersAndStopRemovesEverything) {
   load(profile());
   EXPECT_TRUE(session().runAddIn());
   EXPECT_EQ(session().toolbar().size(), 4U);
@@ -18,7 +21,7 @@ TEST_P(AddInUnderEachProfile, RunRegistersAndStopRemovesEverything) {
   EXPECT_THAT(session().toolbar(), IsEmpty());
 }
 
-TEST_P(AddInUnderEachProfile, StartsAgainAfterItWasStopped) {
+TABLE_TEST(AddInUnderEachProfile, StartsAgainAfterItWasStopped) {
   start(profile());
   ASSERT_TRUE(session().stopAddIn());
   ASSERT_TRUE(session().runAddIn());
@@ -26,14 +29,12 @@ TEST_P(AddInUnderEachProfile, StartsAgainAfterItWasStopped) {
   EXPECT_EQ(shown("idLibAssets"), "RAL_COLORS");
 }
 
-TEST_P(AddInUnderEachProfile, StartsAgainAfterItWasUnloaded) {
+TABLE_TEST(AddInUnderEachProfile, StartsAgainAfterItWasUnloaded) {
   startDialog(profile());
   finish();
   startDialog(profile());
   EXPECT_EQ(shown("idLibAssets"), "RAL_COLORS");
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(AddInUnderEachProfile);
 
 using AddIn = AddInTest;
 

@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -43,12 +44,16 @@ class CommandRestart : public AddInTest {
   }
 };
 
-using CommandAndReason = std::tuple<const char*, int>;
+using CommandAndReason = std::pair<std::string, std::size_t>;
 
-class TerminationReason : public CommandRestart, public ::testing::WithParamInterface<CommandAndReason> {};
+class TerminationReason : public CommandRestart, public WithRow<CommandAndReason> {};
 
-TEST_P(TerminationReason, RestartsTheCommandIfItIsOne) {
-  const auto& [command, reason] = GetParam();
+TABLE(
+    Each, TerminationReason, [](const auto& row) { return row.first + "_" + std::to_string(row.second); },
+    everyPair(std::vector<std::string>{"idAssetsMatMng", "idAssetsMatMngOnTools"}, numbersBelow(7)));
+
+TABLE_TEST(TerminationReason, RestartsTheCommandIfItIsOne) {
+  const auto& [command, reason] = row();
   start();
   session().press(command);
   ASSERT_TRUE(session().isDialogOpen());
@@ -60,12 +65,6 @@ TEST_P(TerminationReason, RestartsTheCommandIfItIsOne) {
     EXPECT_EQ(session().dialog().commandId, command);
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Each, TerminationReason,
-                         Combine(Values("idAssetsMatMng", "idAssetsMatMngOnTools"), ::testing::Range(0, 7)),
-                         [](const auto& info) {
-                           return std::get<0>(info.param) + std::string("_") + std::to_string(std::get<1>(info.param));
-                         });
 
 TEST_F(CommandRestart, ReadsTheEventInThisOrder) {
   startDialog();
@@ -138,18 +137,18 @@ TEST_F(CommandRestart, DoesNotConcernTheHelpCommand) {
   EXPECT_EQ(restarts(), 0U);
 }
 
-class ForeignCommand : public CommandRestart, public ::testing::WithParamInterface<const char*> {};
+class ForeignCommand : public CommandRestart, public WithRow<const char*> {};
 
-TEST_P(ForeignCommand, IsNotRestarted) {
+TABLE(Ids, ForeignCommand, byNumber,
+      {"FitCommand", "idAssetsMatMn", "idAssetsMatMng2", "IDASSETSMATMNG", "xidAssetsMatMng"});
+
+TABLE_TEST(ForeignCommand, IsNotRestarted) {
   start();
-  auto& foreign = host().ui().definitions().addNative(GetParam(), "Foreign");
+  auto& foreign = host().ui().definitions().addNative(row(), "Foreign");
   host().gate().startTrace();
   host().ui().runner().start(foreign);
   EXPECT_THAT(callsIn(host().gate()), ElementsAre("ApplicationCommandEventArgs.commandId()"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Ids, ForeignCommand,
-                         Values("FitCommand", "idAssetsMatMn", "idAssetsMatMng2", "IDASSETSMATMNG", "xidAssetsMatMng"));
 
 TEST_F(CommandRestart, RaisesAfterStopTookTheDefinition) {
   startDialog();

@@ -6,6 +6,7 @@
 
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 namespace {
@@ -33,41 +34,39 @@ struct FileName {
   const char* settings;
 };
 
-std::string moduleNameOf(const ::testing::TestParamInfo<FileName>& info) {
-  std::string name = info.param.module;
+std::string moduleNameOf(const FileName& file) {
+  std::string name = file.module;
   std::replace_if(
       name.begin(), name.end(), [](char letter) { return letter == '.' || letter == ' '; }, '_');
   return name;
 }
 
-class ModuleName : public ModulePath, public ::testing::WithParamInterface<FileName> {};
+class ModuleName : public ModulePath, public WithRow<FileName> {};
 
-TEST_P(ModuleName, HasItsFirstEndingReplaced) {
-  folder.renameModule(GetParam().module);
+TABLE(Names, ModuleName, moduleNameOf,
+      {{"Tintora.dll", "Tintora_USER_CmdSet.txt"},
+       {"Another name.dll", "Another name_USER_CmdSet.txt"},
+       {"Tintora.dll.dll", "Tintora_USER_CmdSet.txt.dll"},
+       {"Tintora.dllx.dll", "Tintora_USER_CmdSet.txtx.dll"},
+       {"Other.DLL.dll", "Other.DLL_USER_CmdSet.txt"}});
+
+TABLE_TEST(ModuleName, HasItsFirstEndingReplaced) {
+  folder.renameModule(row().module);
   keepSettings();
-  EXPECT_TRUE(folder.has(GetParam().settings));
+  EXPECT_TRUE(folder.has(row().settings));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, ModuleName,
-                         ::testing::Values(FileName{"Tintora.dll", "Tintora_USER_CmdSet.txt"},
-                                           FileName{"Another name.dll", "Another name_USER_CmdSet.txt"},
-                                           FileName{"Tintora.dll.dll", "Tintora_USER_CmdSet.txt.dll"},
-                                           FileName{"Tintora.dllx.dll", "Tintora_USER_CmdSet.txtx.dll"},
-                                           FileName{"Other.DLL.dll", "Other.DLL_USER_CmdSet.txt"}),
-                         moduleNameOf);
+class ModuleNameWithoutEnding : public ModulePath, public WithRow<FileName> {};
 
-class ModuleNameWithoutEnding : public ModulePath, public ::testing::WithParamInterface<FileName> {};
+TABLE(Names, ModuleNameWithoutEnding, moduleNameOf, {{"Tintora.addin", ""}, {"Tintora.DLL", ""}});
 
-TEST_P(ModuleNameWithoutEnding, HasNoGuide) {
-  folder.renameModule(GetParam().module);
+TABLE_TEST(ModuleNameWithoutEnding, HasNoGuide) {
+  folder.renameModule(row().module);
   start();
   session().press("idOpenHelp");
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("execute(idOpenHelp): std::out_of_range")));
   EXPECT_THAT(headless::desktop::openedFiles(), IsEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, ModuleNameWithoutEnding,
-                         ::testing::Values(FileName{"Tintora.addin", ""}, FileName{"Tintora.DLL", ""}), moduleNameOf);
 
 TEST_F(ModulePath, FolderNamedLikeAModuleHidesTheGuide) {
   folder.moveModuleTo("my.dll folder");
@@ -112,7 +111,7 @@ class LongModulePath : public ModulePath {
   fs::path top;
 };
 
-class ModulePathLength : public ModulePath, public ::testing::WithParamInterface<std::size_t> {
+class ModulePathLength : public ModulePath, public WithRow<std::size_t> {
  protected:
   // How long the file's name is depends on where a system keeps temporary files.
   ModulePathLength() { hasJournal = false; }
@@ -120,16 +119,25 @@ class ModulePathLength : public ModulePath, public ::testing::WithParamInterface
   /// The file has so long a name that its path has that many characters.
   void SetUp() override {
     const std::size_t rest = (folder.path() / ".dll").wstring().size();
-    ASSERT_LT(rest, GetParam()) << "the folder for temporary files is too deep for this test";
-    folder.renameModule(std::string(GetParam() - rest, 'x') + ".dll");
-    ASSERT_EQ(folder.module().wstring().size(), GetParam());
+    ASSERT_LT(rest, row()) << "the folder for temporary files is too deep for this test";
+    folder.renameModule(std::string(row() - rest, 'x') + ".dll");
+    ASSERT_EQ(folder.module().wstring().size(), row());
   }
 
   /// One character of the buffer is for the end of the text.
-  static bool isWhole() { return GetParam() < 260; }
+  bool isWhole() const { return row() < 260; }
 };
 
-TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereIsNoGuide) {
+const auto nameOfLength = [](std::size_t length) { return std::to_string(length); };
+
+#ifdef _WIN32
+// Wine gives a path of 260 characters without an end, and so whole; Windows is documented to cut it.
+TABLE(Characters, ModulePathLength, nameOfLength, {258, 259, 261, 262});
+#else
+TABLE(Characters, ModulePathLength, nameOfLength, {258, 259, 260, 261, 262});
+#endif
+
+TABLE_TEST(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereIsNoGuide) {
   start();
   session().press("idOpenHelp");
   if (isWhole()) {
@@ -140,7 +148,7 @@ TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereIsNoGuide) {
 }
 
 // The folder is whole and holds the libraries; what is missing is the ending that names the settings file.
-TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereAreNoSettings) {
+TABLE_TEST(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereAreNoSettings) {
   start();
   session().press("idAssetsMatMng");
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
@@ -151,13 +159,7 @@ TEST_P(ModulePathLength, CutsTheEndingFrom260CharactersSoThatThereAreNoSettings)
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Characters, ModulePathLength, ::testing::Values(258, 259, 261, 262),
-                         [](const auto& info) { return std::to_string(info.param); });
 #ifndef _WIN32
-// Wine gives these without an end, and so whole; Windows is documented to cut them.
-INSTANTIATE_TEST_SUITE_P(PosixCharacters, ModulePathLength, ::testing::Values(260),
-                         [](const auto& info) { return std::to_string(info.param); });
-
 using PosixModulePath = ModulePath;
 
 // Windows itself opens no guide whose path is that long.

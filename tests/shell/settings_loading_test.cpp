@@ -3,6 +3,7 @@
 #include "host/libraries/library_file.h"
 #include "tests/shell/file_rights.h"
 #include "tests/shell/settings_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -43,19 +44,19 @@ std::vector<std::string> choicesAfter(std::size_t steps) {
   return expected;
 }
 
-class SettingsLoadingUnderProfile : public SettingsTest, public ::testing::WithParamInterface<std::string> {};
+class SettingsLoadingUnderProfile : public SettingsTest, public WithRow<std::string> {};
 
-TEST_P(SettingsLoadingUnderProfile, RestoresAllNineValuesWithAndWithoutAFinalLineBreak) {
+TABLE_OF_PROFILES(SettingsLoadingUnderProfile);
+
+TABLE_TEST(SettingsLoadingUnderProfile, RestoresAllNineValuesWithAndWithoutAFinalLineBreak) {
   for (const char* end : {"", "\n", "\nextra", "\n\n\n"}) {
     writeSettings(joinLines(otherLines) + end);
-    startDialog(headless::profileNamed(GetParam()));
+    startDialog(headless::profileNamed(row()));
     EXPECT_THAT(choices(), ElementsAreArray(otherChoices));
     EXPECT_EQ(shown("idSelection"), "Select Face");
     finish();
   }
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(SettingsLoadingUnderProfile);
 
 using SettingsLoading = SettingsTest;
 
@@ -158,67 +159,69 @@ struct ShortFile {
   std::vector<std::string> choices;
 };
 
-class ShortSettingsFile : public SettingsTest, public ::testing::WithParamInterface<ShortFile> {};
+class ShortSettingsFile : public SettingsTest, public WithRow<ShortFile> {};
 
-TEST_P(ShortSettingsFile, IsReadAsFarAsItGoes) {
+TABLE(Lines, ShortSettingsFile, [](const auto& row) { return std::to_string(row.lines); },
+      {{0, defaultChoices},
+       {1, {"Face", "1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
+       {2, {"Face", "0", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
+       {3, {"Face", "0", "1", "Second", "RAL 1000 Green beige", "1", "1", "Metals", "nothing found"}},
+       {4, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "1", "1", "Metals", "nothing found"}},
+       {5, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Metals", "nothing found"}},
+       {6, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Basalt"}},
+       {7, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
+       {8, {"Face", "0", "0", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
+       {9, otherChoices}});
+
+TABLE_TEST(ShortSettingsFile, IsReadAsFarAsItGoes) {
   writeSettings(
-      std::vector<std::string>(otherLines.begin(), otherLines.begin() + static_cast<std::ptrdiff_t>(GetParam().lines)));
+      std::vector<std::string>(otherLines.begin(), otherLines.begin() + static_cast<std::ptrdiff_t>(row().lines)));
   startDialog();
-  EXPECT_THAT(choices(), ElementsAreArray(GetParam().choices));
+  EXPECT_THAT(choices(), ElementsAreArray(row().choices));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lines, ShortSettingsFile,
-    ::testing::Values(
-        ShortFile{0, defaultChoices},
-        ShortFile{1, {"Face", "1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
-        ShortFile{2, {"Face", "0", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "1", "Metals", "Steel 37"}},
-        ShortFile{3, {"Face", "0", "1", "Second", "RAL 1000 Green beige", "1", "1", "Metals", "nothing found"}},
-        ShortFile{4, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "1", "1", "Metals", "nothing found"}},
-        ShortFile{5, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Metals", "nothing found"}},
-        ShortFile{6, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Basalt"}},
-        ShortFile{7, {"Face", "0", "1", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
-        ShortFile{8, {"Face", "0", "0", "Second", "RAL 9005 Jet black", "0", "1", "Stones", "Granite"}},
-        ShortFile{9, otherChoices}),
-    [](const auto& info) { return std::to_string(info.param.lines); });
-
 struct NumberText {
-  const char* description;
+  const char* name;
   const char* text;
   bool isTrue;
 };
 
-class SavedFlag : public SettingsTest, public ::testing::WithParamInterface<NumberText> {};
+class SavedFlag : public SettingsTest, public WithRow<NumberText> {};
 
-TEST_P(SavedFlag, IsTrueForANumberOtherThanZero) {
+TABLE(Texts, SavedFlag, byName,
+      {{"One", "1", true},
+       {"Zero", "0", false},
+       {"Other", "42", true},
+       {"Negative", "-1", true},
+       {"Zeros", "000", false},
+       {"Plus", "+0", false},
+       {"WhiteSpace", " \t\v\f0", false},
+       {"StopsAtTheFirstOther", "0x1", false},
+       {"StopsAtABlank", "0 1", false},
+       {"Point", "0.9", false},
+       {"Largest", "2147483647", true},
+       {"Smallest", "-2147483648", true}});
+
+TABLE_TEST(SavedFlag, IsTrueForANumberOtherThanZero) {
   std::vector<std::string> lines = defaultLines;
   for (const std::size_t line : {1U, 4U, 7U, 8U}) {
-    lines[line] = GetParam().text;
+    lines[line] = row().text;
   }
   writeSettings(lines);
   startDialog();
   for (const char* id : {"idGroupAppearance", "idGroupMaterial"}) {
-    EXPECT_EQ(session().input(id).isExpanded, GetParam().isTrue) << id;
-    EXPECT_EQ(session().input(id).isTicked, GetParam().isTrue) << id;
+    EXPECT_EQ(session().input(id).isExpanded, row().isTrue) << id;
+    EXPECT_EQ(session().input(id).isTicked, row().isTrue) << id;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, SavedFlag,
-                         ::testing::Values(NumberText{"One", "1", true}, NumberText{"Zero", "0", false},
-                                           NumberText{"Other", "42", true}, NumberText{"Negative", "-1", true},
-                                           NumberText{"Zeros", "000", false}, NumberText{"Plus", "+0", false},
-                                           NumberText{"WhiteSpace", " \t\v\f0", false},
-                                           NumberText{"StopsAtTheFirstOther", "0x1", false},
-                                           NumberText{"StopsAtABlank", "0 1", false}, NumberText{"Point", "0.9", false},
-                                           NumberText{"Largest", "2147483647", true},
-                                           NumberText{"Smallest", "-2147483648", true}),
-                         [](const auto& info) { return std::string(info.param.description); });
+class SavedIndex : public SettingsTest, public WithRow<NumberText> {};
 
-class SavedIndex : public SettingsTest, public ::testing::WithParamInterface<NumberText> {};
+TABLE(Texts, SavedIndex, byName, {{"Three", "3", false}, {"Negative", "-1", false}, {"Largest", "2147483647", false}});
 
-TEST_P(SavedIndex, RaisesAtOnceWhereNoButtonHasIt) {
+TABLE_TEST(SavedIndex, RaisesAtOnceWhereNoButtonHasIt) {
   std::vector<std::string> lines = otherLines;
-  lines[0] = GetParam().text;
+  lines[0] = row().text;
   writeSettings(lines);
   start();
   session().press("idAssetsMatMng");
@@ -227,13 +230,8 @@ TEST_P(SavedIndex, RaisesAtOnceWhereNoButtonHasIt) {
   EXPECT_EQ(shown("idSelection"), "Select");
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, SavedIndex,
-                         ::testing::Values(NumberText{"Three", "3", false}, NumberText{"Negative", "-1", false},
-                                           NumberText{"Largest", "2147483647", false}),
-                         [](const auto& info) { return std::string(info.param.description); });
-
 struct BadNumber {
-  const char* description;
+  const char* name;
   const char* text;
   const char* error;
 };
@@ -241,49 +239,62 @@ struct BadNumber {
 constexpr const char* noNumber = "std::invalid_argument: invalid stoi argument";
 constexpr const char* outOfRange = "std::out_of_range: stoi argument out of range";
 
-class BadSavedNumber : public SettingsTest, public ::testing::WithParamInterface<BadNumber> {};
+class BadSavedNumber : public SettingsTest, public WithRow<BadNumber> {};
 
-TEST_P(BadSavedNumber, RaisesAndLeavesWhatWasRestoredBeforeIt) {
+TABLE(Texts, BadSavedNumber, byName,
+      {{"Empty", "", noNumber},
+       {"Word", "abc", noNumber},
+       {"OnlyASign", "-", noNumber},
+       {"TwoSigns", "+-1", noNumber},
+       {"OnlyBlanks", "  ", noNumber},
+       {"Point", ".5", noNumber},
+       {"SignAndBlank", "- 1", noNumber},
+       {"TooLarge", "2147483648", outOfRange},
+       {"TooSmall", "-2147483649", outOfRange},
+       {"TooLong", "99999999999999999999999", outOfRange}});
+
+TABLE_TEST(BadSavedNumber, RaisesAndLeavesWhatWasRestoredBeforeIt) {
   // The lines that hold numbers, and how many values are restored before each.
   const std::vector<std::pair<std::size_t, std::size_t>> numberLines = {{0, 0}, {1, 1}, {7, 2}, {4, 5}, {8, 6}};
   for (const auto& [line, steps] : numberLines) {
     SCOPED_TRACE("line " + std::to_string(line + 1));
     std::vector<std::string> lines = otherLines;
-    lines[line] = GetParam().text;
+    lines[line] = row().text;
     writeSettings(joinLines(lines) + "\n");
     start();
     session().press("idAssetsMatMng");
-    EXPECT_THAT(takeErrors(), ElementsAre(std::string("commandCreated(idAssetsMatMng): ") + GetParam().error));
+    EXPECT_THAT(takeErrors(), ElementsAre(std::string("commandCreated(idAssetsMatMng): ") + row().error));
     EXPECT_THAT(choices(), ElementsAreArray(choicesAfter(steps)));
     finish();
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, BadSavedNumber,
-                         ::testing::Values(BadNumber{"Empty", "", noNumber}, BadNumber{"Word", "abc", noNumber},
-                                           BadNumber{"OnlyASign", "-", noNumber},
-                                           BadNumber{"TwoSigns", "+-1", noNumber},
-                                           BadNumber{"OnlyBlanks", "  ", noNumber}, BadNumber{"Point", ".5", noNumber},
-                                           BadNumber{"SignAndBlank", "- 1", noNumber},
-                                           BadNumber{"TooLarge", "2147483648", outOfRange},
-                                           BadNumber{"TooSmall", "-2147483649", outOfRange},
-                                           BadNumber{"TooLong", "99999999999999999999999", outOfRange}),
-                         [](const auto& info) { return std::string(info.param.description); });
-
 struct SavedName {
-  const char* description;
+  const char* name;
   std::size_t line;
   const char* text;
 };
 
-class UnmatchedName : public SettingsTest, public ::testing::WithParamInterface<SavedName> {};
+class UnmatchedName : public SettingsTest, public WithRow<SavedName> {};
 
-TEST_P(UnmatchedName, LeavesItsListAsItIs) {
+TABLE(Names, UnmatchedName, byName,
+      {{"AppearanceLibraryInLowerCase", 2, "second"},
+       {"AppearanceLibraryCut", 2, "Secon"},
+       {"AppearanceLibraryLonger", 2, "Second "},
+       {"AppearanceLibraryEmpty", 2, ""},
+       {"AppearanceInUpperCase", 3, "RAL 9005 JET BLACK"},
+       {"AppearanceOfAnotherLibrary", 3, "Oak tree"},
+       {"MaterialLibraryGone", 5, "Woods"},
+       {"MaterialLibraryInLowerCase", 5, "stones"},
+       {"MaterialGone", 6, "Marble"},
+       {"MaterialCut", 6, "Granit"}});
+
+TABLE_TEST(UnmatchedName, LeavesItsListAsItIs) {
   std::vector<std::string> lines = {"1", "1", "RAL_COLORS", "RAL 1000 Green beige", "1", "Stones", "Basalt", "1", "1"};
   std::vector<std::string> expected = {"Body", "1", "1",      "RAL_COLORS", "RAL 1000 Green beige",
                                        "1",    "1", "Stones", "Basalt"};
-  lines[GetParam().line] = GetParam().text;
-  if (GetParam().line == 5) {
+  lines[row().line] = row().text;
+  if (row().line == 5) {
     expected[7] = "Metals";
     expected[8] = "nothing found";
   }
@@ -291,19 +302,6 @@ TEST_P(UnmatchedName, LeavesItsListAsItIs) {
   startDialog();
   EXPECT_THAT(choices(), ElementsAreArray(expected));
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, UnmatchedName,
-                         ::testing::Values(SavedName{"AppearanceLibraryInLowerCase", 2, "second"},
-                                           SavedName{"AppearanceLibraryCut", 2, "Secon"},
-                                           SavedName{"AppearanceLibraryLonger", 2, "Second "},
-                                           SavedName{"AppearanceLibraryEmpty", 2, ""},
-                                           SavedName{"AppearanceInUpperCase", 3, "RAL 9005 JET BLACK"},
-                                           SavedName{"AppearanceOfAnotherLibrary", 3, "Oak tree"},
-                                           SavedName{"MaterialLibraryGone", 5, "Woods"},
-                                           SavedName{"MaterialLibraryInLowerCase", 5, "stones"},
-                                           SavedName{"MaterialGone", 6, "Marble"},
-                                           SavedName{"MaterialCut", 6, "Granit"}),
-                         [](const auto& info) { return std::string(info.param.description); });
 
 TEST_F(SettingsLoading, ListsTheMaterialsOfALibraryThatTheHostKnowsAndTheListDoesNot) {
   start();

@@ -5,6 +5,7 @@
 #include "shell/globals.h"
 #include "tests/shell/file_rights.h"
 #include "tests/shell/settings_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -17,18 +18,20 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-class SettingsSavingUnderProfile : public SettingsTest, public ::testing::WithParamInterface<std::string> {
+class SettingsSavingUnderProfile : public SettingsTest, public WithRow<std::string> {
  protected:
-  headless::Profile profile() const { return headless::profileNamed(GetParam()); }
+  headless::Profile profile() const { return headless::profileNamed(row()); }
 };
 
-TEST_P(SettingsSavingUnderProfile, FirstApplyMakesNineLinesWithoutAFinalLineBreak) {
+TABLE_OF_PROFILES(SettingsSavingUnderProfile);
+
+TABLE_TEST(SettingsSavingUnderProfile, FirstApplyMakesNineLinesWithoutAFinalLineBreak) {
   startDialog(profile());
   apply();
   EXPECT_EQ(savedSettings(), onDisk("1\n1\nRAL_COLORS\nRAL 1000 Green beige\n1\nMetals\nSteel 37\n1\n1"));
 }
 
-TEST_P(SettingsSavingUnderProfile, SecondApplyEndsTheLastLineToo) {
+TABLE_TEST(SettingsSavingUnderProfile, SecondApplyEndsTheLastLineToo) {
   startDialog(profile());
   apply();
   session().choose("idMaterialList", "Foam");
@@ -38,7 +41,7 @@ TEST_P(SettingsSavingUnderProfile, SecondApplyEndsTheLastLineToo) {
   EXPECT_EQ(savedSettings(), onDisk("1\n1\nRAL_COLORS\nRAL 1000 Green beige\n1\nMetals\nFoam\n1\n1\n"));
 }
 
-TEST_P(SettingsSavingUnderProfile, NextDialogOpensWithWhatWasSaved) {
+TABLE_TEST(SettingsSavingUnderProfile, NextDialogOpensWithWhatWasSaved) {
   startDialog(profile());
   session().choose("idLibMaterials", "Stones");
   session().choose("idMaterialList", "Granite");
@@ -53,8 +56,6 @@ TEST_P(SettingsSavingUnderProfile, NextDialogOpensWithWhatWasSaved) {
   restored.pop_back();
   EXPECT_THAT(restored, ::testing::ElementsAreArray(expected));
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(SettingsSavingUnderProfile);
 
 using SettingsSaving = SettingsTest;
 
@@ -74,22 +75,19 @@ struct FilterModeCase {
   const char* saved;
 };
 
-class SavedFilterMode : public SettingsTest, public ::testing::WithParamInterface<FilterModeCase> {};
+class SavedFilterMode : public SettingsTest, public WithRow<FilterModeCase> {};
 
-TEST_P(SavedFilterMode, IsTheIndexOfTheButton) {
+TABLE(Modes, SavedFilterMode, [](const auto& row) { return std::string(row.label); },
+      {{"Component", "Bolt:2", "0"}, {"Body", "Base", "1"}, {"Face", "Bolt:2/Head/Face1", "2"}});
+
+TABLE_TEST(SavedFilterMode, IsTheIndexOfTheButton) {
   startDialog();
-  session().choose("idFilterSelect", GetParam().label);
-  apply(GetParam().pickable);
+  session().choose("idFilterSelect", row().label);
+  apply(row().pickable);
   std::vector<std::string> lines = defaultLines;
-  lines[0] = GetParam().saved;
+  lines[0] = row().saved;
   EXPECT_EQ(savedSettings(), onDisk(joinLines(lines)));
 }
-
-INSTANTIATE_TEST_SUITE_P(Modes, SavedFilterMode,
-                         ::testing::Values(FilterModeCase{"Component", "Bolt:2", "0"},
-                                           FilterModeCase{"Body", "Base", "1"},
-                                           FilterModeCase{"Face", "Bolt:2/Head/Face1", "2"}),
-                         [](const auto& info) { return std::string(info.param.label); });
 
 TEST_F(SettingsSaving, WritesACollapsedGroupWithoutTick) {
   startDialog();
@@ -161,34 +159,33 @@ TEST_F(SettingsSaving, ReadsTheDialogInTheOrderOfTheLines) {
 }
 
 struct FileBefore {
-  const char* description;
+  const char* name;
   std::string before;
   std::string after;
 };
 
 const std::string nineLines = joinLines(defaultLines) + "\n";
 
-class ExistingSettingsFile : public SettingsTest, public ::testing::WithParamInterface<FileBefore> {};
+class ExistingSettingsFile : public SettingsTest, public WithRow<FileBefore> {};
 
-TEST_P(ExistingSettingsFile, GetsItsFirstNineLinesReplaced) {
+TABLE(Before, ExistingSettingsFile, byName,
+      {{"NineLines", "a\nb\nc\nd\ne\nf\ng\nh\ni\n", nineLines},
+       {"NineLinesWithoutFinalBreak", "a\nb\nc\nd\ne\nf\ng\nh\ni", nineLines},
+       {"ExtraLines", "a\nb\nc\nd\ne\nf\ng\nh\ni\nextra\n\nlast\n", nineLines + "extra\n\nlast\n"},
+       {"ExtraLineWithoutFinalBreak", "a\nb\nc\nd\ne\nf\ng\nh\ni\nlast", nineLines + "last\n"},
+       {"EmptyExtraLine", "a\nb\nc\nd\ne\nf\ng\nh\ni\n\n", nineLines + "\n"},
+       {"NineEmptyLines", "\n\n\n\n\n\n\n\n\n", nineLines},
+       {"OneEmptyLine", "\n", nineLines},
+       {"OneLine", "a", nineLines},
+       {"EightLines", "a\nb\nc\nd\ne\nf\ng\nh\n", nineLines},
+       {"Empty", "", ""}});
+
+TABLE_TEST(ExistingSettingsFile, GetsItsFirstNineLinesReplaced) {
   startDialog();
-  writeSettings(GetParam().before);
+  writeSettings(row().before);
   apply();
-  EXPECT_EQ(savedSettings(), onDisk(GetParam().after));
+  EXPECT_EQ(savedSettings(), onDisk(row().after));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Before, ExistingSettingsFile,
-    ::testing::Values(FileBefore{"NineLines", "a\nb\nc\nd\ne\nf\ng\nh\ni\n", nineLines},
-                      FileBefore{"NineLinesWithoutFinalBreak", "a\nb\nc\nd\ne\nf\ng\nh\ni", nineLines},
-                      FileBefore{"ExtraLines", "a\nb\nc\nd\ne\nf\ng\nh\ni\nextra\n\nlast\n",
-                                 nineLines + "extra\n\nlast\n"},
-                      FileBefore{"ExtraLineWithoutFinalBreak", "a\nb\nc\nd\ne\nf\ng\nh\ni\nlast", nineLines + "last\n"},
-                      FileBefore{"EmptyExtraLine", "a\nb\nc\nd\ne\nf\ng\nh\ni\n\n", nineLines + "\n"},
-                      FileBefore{"NineEmptyLines", "\n\n\n\n\n\n\n\n\n", nineLines},
-                      FileBefore{"OneEmptyLine", "\n", nineLines}, FileBefore{"OneLine", "a", nineLines},
-                      FileBefore{"EightLines", "a\nb\nc\nd\ne\nf\ng\nh\n", nineLines}, FileBefore{"Empty", "", ""}),
-    [](const auto& info) { return std::string(info.param.description); });
 
 TEST_F(SettingsSaving, KeepsExtraLinesThroughEverySave) {
   startDialog();
@@ -267,7 +264,7 @@ TEST_F(SettingsSaving, RaisesForAModuleWithoutEndingAndAssignsNothing) {
   EXPECT_EQ(ownLook(body("Machine", "Base")), "");
 }
 
-class UnselectedList : public SettingsTest, public ::testing::WithParamInterface<const char*> {
+class UnselectedList : public SettingsTest, public WithRow<const char*> {
  protected:
   /// Takes the selection of a list away, as no user can.
   void unselect(const std::string& inputId) {
@@ -278,7 +275,10 @@ class UnselectedList : public SettingsTest, public ::testing::WithParamInterface
   }
 };
 
-TEST_P(UnselectedList, RaisesAndNothingIsWrittenOrAssigned) {
+TABLE(Lists, UnselectedList, byText,
+      {"idFilterSelect", "idLibAssets", "idAppearanceList", "idLibMaterials", "idMaterialList"});
+
+TABLE_TEST(UnselectedList, RaisesAndNothingIsWrittenOrAssigned) {
   startDialog();
   for (const std::string& before : {std::string(), nineLines + "extra"}) {
     if (!before.empty()) {
@@ -286,18 +286,13 @@ TEST_P(UnselectedList, RaisesAndNothingIsWrittenOrAssigned) {
       openDialog();
     }
     session().pick("Base");
-    unselect(GetParam());
+    unselect(row());
     session().click("idBtnApply");
     EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("inputChanged(idBtnApply): std::exception:")));
     EXPECT_EQ(folder.has(settingsFile()) ? savedSettings() : "", onDisk(before));
     EXPECT_EQ(ownLook(body("Machine", "Base")), "");
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Lists, UnselectedList,
-                         ::testing::Values("idFilterSelect", "idLibAssets", "idAppearanceList", "idLibMaterials",
-                                           "idMaterialList"),
-                         [](const auto& info) { return std::string(info.param); });
 
 TEST(SettingsRoutines, RaiseWithoutAnApplication) {
   EXPECT_THROW(tintora::settingsFilePath(), std::exception);

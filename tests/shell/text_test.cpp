@@ -1,4 +1,5 @@
 #include "shell/text.h"
+#include "tests/support/tables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,29 +18,28 @@ wchar_t unit(unsigned int value) {
 }
 
 struct Utf8Case {
-  const char* description;
+  const char* name;
   std::wstring wide;
   std::string utf8;
 };
 
-class Utf8 : public ::testing::TestWithParam<Utf8Case> {};
+class Utf8 : public ::testing::Test, public WithRow<Utf8Case> {};
 
-TEST_P(Utf8, EncodesEachUnitAsACodePoint) {
-  EXPECT_EQ(toUtf8(GetParam().wide), GetParam().utf8);
+TABLE(Units, Utf8, byName,
+      {{"Nothing", L"", ""},
+       {"Ascii", L"Tintora 2!", "Tintora 2!"},
+       {"LastOfOneByte", {unit(0x7F)}, "\x7F"},
+       {"FirstOfTwoBytes", {unit(0x80)}, "\xC2\x80"},
+       {"Umlaut", {L'G', L'r', unit(0xFC), L'n'}, "Gr\xC3\xBCn"},
+       {"LastOfTwoBytes", {unit(0x7FF)}, "\xDF\xBF"},
+       {"FirstOfThreeBytes", {unit(0x800)}, "\xE0\xA0\x80"},
+       {"LastOfThreeBytes", {unit(0xFFFF)}, "\xEF\xBF\xBF"},
+       {"SurrogatePairAsTwoUnits", {unit(0xD83D), unit(0xDE00)}, "\xED\xA0\xBD\xED\xB8\x80"},
+       {"NulInside", {L'a', L'\0', L'b'}, {'a', '\0', 'b'}}});
+
+TABLE_TEST(Utf8, EncodesEachUnitAsACodePoint) {
+  EXPECT_EQ(toUtf8(row().wide), row().utf8);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Units, Utf8,
-    ::testing::Values(Utf8Case{"Nothing", L"", ""}, Utf8Case{"Ascii", L"Tintora 2!", "Tintora 2!"},
-                      Utf8Case{"LastOfOneByte", {unit(0x7F)}, "\x7F"},
-                      Utf8Case{"FirstOfTwoBytes", {unit(0x80)}, "\xC2\x80"},
-                      Utf8Case{"Umlaut", {L'G', L'r', unit(0xFC), L'n'}, "Gr\xC3\xBCn"},
-                      Utf8Case{"LastOfTwoBytes", {unit(0x7FF)}, "\xDF\xBF"},
-                      Utf8Case{"FirstOfThreeBytes", {unit(0x800)}, "\xE0\xA0\x80"},
-                      Utf8Case{"LastOfThreeBytes", {unit(0xFFFF)}, "\xEF\xBF\xBF"},
-                      Utf8Case{"SurrogatePairAsTwoUnits", {unit(0xD83D), unit(0xDE00)}, "\xED\xA0\xBD\xED\xB8\x80"},
-                      Utf8Case{"NulInside", {L'a', L'\0', L'b'}, {'a', '\0', 'b'}}),
-    [](const auto& info) { return std::string(info.param.description); });
 
 #ifndef _WIN32
 // Units of wide text go further than 16 bits here.
@@ -70,51 +70,53 @@ TEST(AnsiText, ShowsABlankForACharacterThatTheCodePageLacks) {
 }
 
 struct SplitCase {
-  const char* description;
+  const char* name;
   std::string text;
   std::string delimiter;
   std::vector<std::string> pieces;
 };
 
-class Split : public ::testing::TestWithParam<SplitCase> {};
+class Split : public ::testing::Test, public WithRow<SplitCase> {};
 
-TEST_P(Split, GivesThePiecesThatEndAtADelimiter) {
-  EXPECT_THAT(splitString(GetParam().text, GetParam().delimiter), ElementsAreArray(GetParam().pieces));
+TABLE(Texts, Split, byName,
+      {{"Empty", "", ";", {}},
+       {"NoDelimiter", "abc", ";", {}},
+       {"EndsWithDelimiter", "a;b;", ";", {"a", "b"}},
+       {"LastPieceIsDropped", "a;b", ";", {"a"}},
+       {"EmptyPieces", ";;a;;", ";", {"", "", "a", ""}},
+       {"OnlyTheDelimiter", ";", ";", {""}},
+       {"LongDelimiter", "a, b, c", ", ", {"a", "b"}},
+       {"FromLeftToRight", "a---b--", "--", {"a", "-b"}},
+       {"DelimiterLongerThanText", "a", "--", {}},
+       {"NoDelimiterGiven", "abc", "", {}}});
+
+TABLE_TEST(Split, GivesThePiecesThatEndAtADelimiter) {
+  EXPECT_THAT(splitString(row().text, row().delimiter), ElementsAreArray(row().pieces));
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, Split,
-                         ::testing::Values(SplitCase{"Empty", "", ";", {}}, SplitCase{"NoDelimiter", "abc", ";", {}},
-                                           SplitCase{"EndsWithDelimiter", "a;b;", ";", {"a", "b"}},
-                                           SplitCase{"LastPieceIsDropped", "a;b", ";", {"a"}},
-                                           SplitCase{"EmptyPieces", ";;a;;", ";", {"", "", "a", ""}},
-                                           SplitCase{"OnlyTheDelimiter", ";", ";", {""}},
-                                           SplitCase{"LongDelimiter", "a, b, c", ", ", {"a", "b"}},
-                                           SplitCase{"FromLeftToRight", "a---b--", "--", {"a", "-b"}},
-                                           SplitCase{"DelimiterLongerThanText", "a", "--", {}},
-                                           SplitCase{"NoDelimiterGiven", "abc", "", {}}),
-                         [](const auto& info) { return std::string(info.param.description); });
-
 struct NumberCase {
-  const char* description;
+  const char* name;
   double number;
   const char* text;
 };
 
-class WholeNumber : public ::testing::TestWithParam<NumberCase> {};
+class WholeNumber : public ::testing::Test, public WithRow<NumberCase> {};
 
-TEST_P(WholeNumber, IsRoundedDown) {
-  EXPECT_EQ(formatWholeNumber(GetParam().number), GetParam().text);
+TABLE(Numbers, WholeNumber, byName,
+      {{"Fraction", 785.9, "785"},
+       {"Zero", 0, "0"},
+       {"ZeroWithASign", -0.0, "-0"},
+       {"Whole", 7850, "7850"},
+       {"Negative", -1, ""},
+       {"BarelyNegative", -1e-9, ""},
+       {"BarelyBelowOne", 0.99999999, "0"},
+       {"BarelyBelowAThousand", 999.9999999, "999"},
+       {"Large", 1234567890123.75, "1234567890123"},
+       {"LargerThanAnyInteger", 1e20, "100000000000000000000"}});
+
+TABLE_TEST(WholeNumber, IsRoundedDown) {
+  EXPECT_EQ(formatWholeNumber(row().number), row().text);
 }
-
-INSTANTIATE_TEST_SUITE_P(Numbers, WholeNumber,
-                         ::testing::Values(NumberCase{"Fraction", 785.9, "785"}, NumberCase{"Zero", 0, "0"},
-                                           NumberCase{"ZeroWithASign", -0.0, "-0"}, NumberCase{"Whole", 7850, "7850"},
-                                           NumberCase{"Negative", -1, ""}, NumberCase{"BarelyNegative", -1e-9, ""},
-                                           NumberCase{"BarelyBelowOne", 0.99999999, "0"},
-                                           NumberCase{"BarelyBelowAThousand", 999.9999999, "999"},
-                                           NumberCase{"Large", 1234567890123.75, "1234567890123"},
-                                           NumberCase{"LargerThanAnyInteger", 1e20, "100000000000000000000"}),
-                         [](const auto& info) { return std::string(info.param.description); });
 
 class CommaNumbers : public std::numpunct<char> {
  protected:

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 
@@ -84,26 +85,26 @@ inline std::ostream& operator<<(std::ostream& stream, const Refusal& refusal) {
   return stream << refusal.call << " number " << refusal.nth;
 }
 
-inline std::string nameOf(const ::testing::TestParamInfo<Refusal>& info) {
-  std::string name = info.param.call + std::to_string(info.param.nth);
+inline std::string nameOf(const Refusal& refusal) {
+  std::string name = refusal.call + std::to_string(refusal.nth);
   name.erase(std::remove_if(name.begin(), name.end(), [](char letter) { return letter == '.' || letter == '='; }),
              name.end());
   return name;
 }
 
 /// Tests of one refused call.
-class RefusedCall : public Toolbar, public ::testing::WithParamInterface<Refusal> {
+class RefusedCall : public Toolbar, public WithRow<Refusal> {
  protected:
-  void refuse() { host().gate().setFault({GetParam().nth, headless::FaultAnswer::Nothing, GetParam().call}); }
+  void refuse() { host().gate().setFault({row().nth, headless::FaultAnswer::Nothing, row().call}); }
 
   /// `answer` is what the entry point answered; false when it raised.
   void expectEnding(bool answer) {
     EXPECT_TRUE(host().gate().faultStruck());
-    EXPECT_EQ(answer, GetParam().ending == Ending::True);
-    if (GetParam().ending == Ending::Raises) {
+    EXPECT_EQ(answer, row().ending == Ending::True);
+    if (row().ending == Ending::Raises) {
       EXPECT_THAT(takeErrorKinds(), ::testing::ElementsAre("std::exception"));
     }
-    EXPECT_EQ(registered(), GetParam().left);
+    EXPECT_EQ(registered(), row().left);
   }
 };
 

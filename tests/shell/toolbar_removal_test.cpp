@@ -1,4 +1,5 @@
 #include "tests/shell/toolbar_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -112,34 +113,32 @@ TEST_F(ToolbarRemoval, HostWithoutControlsOfADeletedPanelHasEachStopEndThere) {
 
 class ToolbarStop : public RefusedCall {};
 
-TEST_P(ToolbarStop, SkipsWhatIsMissingAndRaisesWhereACollectionIs) {
+TABLE(Refused, ToolbarStop, nameOf,
+      {Refusal{"UserInterface.workspaces", 1, Ending::Raises, everything},
+       Refusal{"Workspaces.itemById", 1, Ending::False, everything},
+       Refusal{"Workspace.toolbarPanels", 1, Ending::Raises, everything},
+       Refusal{"ToolbarPanels.itemById", 1, Ending::True, {1, 0, 2, 0, 1}},
+       Refusal{"ToolbarPanel.deleteMe", 1, Ending::True, {1, 0, 0, 0, 1}},
+       Refusal{"UserInterface.commandDefinitions", 1, Ending::Raises, {1, 4, 2, 4, 1}},
+       Refusal{"CommandDefinitions.itemById", 1, Ending::True, {0, 1, 0, 1, 1}},
+       Refusal{"ToolbarPanel.controls", 1, Ending::Raises, {1, 3, 2, 3, 1}},
+       Refusal{"UserInterface.commandDefinitions", 2, Ending::Raises, {1, 3, 2, 3, 1}},
+       Refusal{"CommandDefinitions.itemById", 2, Ending::True, {0, 1, 0, 1, 1}},
+       Refusal{"ToolbarPanel.controls", 2, Ending::Raises, {1, 2, 2, 2, 1}},
+       Refusal{"Workspace.toolbarPanels", 2, Ending::Raises, {1, 2, 2, 2, 1}},
+       Refusal{"ToolbarPanels.itemById", 2, Ending::True, {1, 0, 2, 0, 1}},
+       Refusal{"UserInterface.commandDefinitions", 3, Ending::Raises, {0, 2, 0, 2, 1}},
+       Refusal{"CommandDefinitions.itemById", 3, Ending::True, {0, 1, 0, 1, 1}},
+       Refusal{"ToolbarPanel.controls", 3, Ending::Raises, {0, 1, 0, 1, 1}},
+       Refusal{"UserInterface.commandDefinitions", 4, Ending::Raises, {0, 1, 0, 1, 1}},
+       Refusal{"CommandDefinitions.itemById", 4, Ending::True, {0, 1, 0, 1, 1}},
+       Refusal{"ToolbarPanel.controls", 4, Ending::Raises, {0, 0, 0, 0, 1}}});
+
+TABLE_TEST(ToolbarStop, SkipsWhatIsMissingAndRaisesWhereACollectionIs) {
   start();
   refuse();
   expectEnding(session().stopAddIn());
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Refused, ToolbarStop,
-    ::testing::Values(Refusal{"UserInterface.workspaces", 1, Ending::Raises, everything},
-                      Refusal{"Workspaces.itemById", 1, Ending::False, everything},
-                      Refusal{"Workspace.toolbarPanels", 1, Ending::Raises, everything},
-                      Refusal{"ToolbarPanels.itemById", 1, Ending::True, {1, 0, 2, 0, 1}},
-                      Refusal{"ToolbarPanel.deleteMe", 1, Ending::True, {1, 0, 0, 0, 1}},
-                      Refusal{"UserInterface.commandDefinitions", 1, Ending::Raises, {1, 4, 2, 4, 1}},
-                      Refusal{"CommandDefinitions.itemById", 1, Ending::True, {0, 1, 0, 1, 1}},
-                      Refusal{"ToolbarPanel.controls", 1, Ending::Raises, {1, 3, 2, 3, 1}},
-                      Refusal{"UserInterface.commandDefinitions", 2, Ending::Raises, {1, 3, 2, 3, 1}},
-                      Refusal{"CommandDefinitions.itemById", 2, Ending::True, {0, 1, 0, 1, 1}},
-                      Refusal{"ToolbarPanel.controls", 2, Ending::Raises, {1, 2, 2, 2, 1}},
-                      Refusal{"Workspace.toolbarPanels", 2, Ending::Raises, {1, 2, 2, 2, 1}},
-                      Refusal{"ToolbarPanels.itemById", 2, Ending::True, {1, 0, 2, 0, 1}},
-                      Refusal{"UserInterface.commandDefinitions", 3, Ending::Raises, {0, 2, 0, 2, 1}},
-                      Refusal{"CommandDefinitions.itemById", 3, Ending::True, {0, 1, 0, 1, 1}},
-                      Refusal{"ToolbarPanel.controls", 3, Ending::Raises, {0, 1, 0, 1, 1}},
-                      Refusal{"UserInterface.commandDefinitions", 4, Ending::Raises, {0, 1, 0, 1, 1}},
-                      Refusal{"CommandDefinitions.itemById", 4, Ending::True, {0, 1, 0, 1, 1}},
-                      Refusal{"ToolbarPanel.controls", 4, Ending::Raises, {0, 0, 0, 0, 1}}),
-    nameOf);
 
 }  // namespace
 }  // namespace tests

@@ -1,4 +1,5 @@
 #include "tests/shell/toolbar_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -27,14 +28,17 @@ const std::vector<ExpectedButton> expectedButtons = {
     {"UTILITIES", toolsPanel, "idAssetsMatMngOnTools", "Tintora", mainTooltip, "resources/Button"},
     {"UTILITIES", toolsPanel, "idOpenHelpOnTools", "Open Help", "Open User Guide", "resources/Help"}};
 
-class ToolbarButtons : public AddInTest, public ::testing::WithParamInterface<std::size_t> {};
+class ToolbarButtons : public AddInTest, public WithRow<std::size_t> {};
 
-TEST_P(ToolbarButtons, ShowNameTooltipAndIconOnTheirPanel) {
+TABLE(
+    All, ToolbarButtons, [](const auto& row) { return std::string(expectedButtons[row].id); }, numbersBelow(4));
+
+TABLE_TEST(ToolbarButtons, ShowNameTooltipAndIconOnTheirPanel) {
   start();
   const std::vector<ButtonView> buttons = session().toolbar();
   ASSERT_EQ(buttons.size(), expectedButtons.size());
-  const ButtonView& button = buttons[GetParam()];
-  const ExpectedButton& expected = expectedButtons[GetParam()];
+  const ButtonView& button = buttons[row()];
+  const ExpectedButton& expected = expectedButtons[row()];
   EXPECT_EQ(button.tab, expected.tab);
   EXPECT_EQ(button.panelId, expected.panelId);
   EXPECT_EQ(button.panel, "QV Tools");
@@ -45,9 +49,6 @@ TEST_P(ToolbarButtons, ShowNameTooltipAndIconOnTheirPanel) {
   EXPECT_TRUE(button.isPromoted);
   EXPECT_FALSE(button.isDead);
 }
-
-INSTANTIATE_TEST_SUITE_P(All, ToolbarButtons, ::testing::Range<std::size_t>(0, 4),
-                         [](const auto& info) { return std::string(expectedButtons[info.param].id); });
 
 TEST_F(Toolbar, IsRegisteredInThisOrder) {
   load();
@@ -127,68 +128,65 @@ TEST_F(Toolbar, NothingIsMadeWithoutTheWorkspace) {
   EXPECT_EQ(registered(), Registered());
 }
 
-class ToolbarTabs : public Toolbar, public ::testing::WithParamInterface<std::string> {};
+class ToolbarTabs : public Toolbar, public WithRow<std::string> {};
 
-TEST_P(ToolbarTabs, AreBothNeededBeforeAnythingIsMade) {
+TABLE(Each, ToolbarTabs, byText, {"SolidTab", "ToolsTab"});
+
+TABLE_TEST(ToolbarTabs, AreBothNeededBeforeAnythingIsMade) {
   load();
-  ASSERT_TRUE(workspace().removeTab(GetParam()));
+  ASSERT_TRUE(workspace().removeTab(row()));
   EXPECT_FALSE(session().runAddIn());
   EXPECT_EQ(registered(), Registered());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, ToolbarTabs, ::testing::Values("SolidTab", "ToolsTab"),
-                         [](const auto& info) { return info.param; });
-
 class ToolbarStart : public RefusedCall {};
 
-TEST_P(ToolbarStart, EndsWhereTheHostRefusesAndStopRemovesWhatIsThere) {
+TABLE(Refused, ToolbarStart, nameOf,
+      {Refusal{"Application.get", 1, Ending::False, {}},
+       Refusal{"Application.userInterface", 1, Ending::False, {}},
+       Refusal{"UserInterface.workspaces", 1, Ending::Raises, {}},
+       Refusal{"Workspaces.itemById", 1, Ending::False, {}},
+       Refusal{"Workspace.toolbarTabs", 1, Ending::Raises, {}},
+       Refusal{"ToolbarTabs.itemById", 1, Ending::False, {}},
+       Refusal{"Workspace.toolbarTabs", 2, Ending::Raises, {}},
+       Refusal{"ToolbarTabs.itemById", 2, Ending::False, {}},
+       Refusal{"ToolbarTab.toolbarPanels", 1, Ending::Raises, {}},
+       Refusal{"ToolbarPanels.add", 1, Ending::Raises, {1, 4}},
+       Refusal{"ToolbarTab.toolbarPanels", 2, Ending::Raises, {1}},
+       Refusal{"ToolbarPanels.add", 2, Ending::Raises, {1, 4, 1}},
+       Refusal{"UserInterface.commandDefinitions", 1, Ending::Raises, {2}},
+       Refusal{"CommandDefinitions.addButtonDefinition", 1, Ending::False, {2, 0}},
+       Refusal{"CommandDefinitions.addButtonDefinition", 2, Ending::False, {2, 1}},
+       Refusal{"CommandDefinitions.addButtonDefinition", 3, Ending::False, {2, 2}},
+       Refusal{"CommandDefinitions.addButtonDefinition", 4, Ending::False, {2, 3}},
+       Refusal{"ToolbarPanel.controls", 1, Ending::Raises, {2, 4, 0}},
+       Refusal{"ToolbarPanel.controls", 2, Ending::Raises, {2, 4, 1}},
+       Refusal{"ToolbarPanel.controls", 3, Ending::Raises, {2, 4, 2}},
+       Refusal{"ToolbarPanel.controls", 4, Ending::Raises, {2, 4, 3}},
+       Refusal{"ToolbarControls.addCommand", 1, Ending::False, {2, 4, 0}},
+       Refusal{"ToolbarControls.addCommand", 2, Ending::False, {2, 4, 1}},
+       Refusal{"ToolbarControls.addCommand", 3, Ending::False, {2, 4, 2}},
+       Refusal{"ToolbarControls.addCommand", 4, Ending::False, {2, 4, 3}},
+       Refusal{"CommandControl.isPromoted=", 1, Ending::True, everything},
+       Refusal{"CommandDefinition.commandCreated", 1, Ending::False, {2, 4, 4, 0}},
+       Refusal{"CommandDefinition.commandCreated", 2, Ending::False, {2, 4, 4, 0}},
+       Refusal{"CommandCreatedEvent.add", 1, Ending::False, {2, 4, 4, 0}},
+       Refusal{"CommandCreatedEvent.add", 2, Ending::False, {2, 4, 4, 1}},
+       Refusal{"CommandDefinition.commandCreated", 3, Ending::False, {2, 4, 4, 2}},
+       Refusal{"CommandDefinition.commandCreated", 4, Ending::False, {2, 4, 4, 2}},
+       Refusal{"CommandCreatedEvent.add", 3, Ending::False, {2, 4, 4, 2}},
+       Refusal{"CommandCreatedEvent.add", 4, Ending::False, {2, 4, 4, 3}},
+       Refusal{"UserInterface.commandTerminated", 1, Ending::False, {2, 4, 4, 4, 0}},
+       Refusal{"ApplicationCommandEvent.add", 1, Ending::True, {2, 4, 4, 4, 0}}});
+
+TABLE_TEST(ToolbarStart, EndsWhereTheHostRefusesAndStopRemovesWhatIsThere) {
   load();
   refuse();
   expectEnding(session().runAddIn());
   EXPECT_TRUE(session().stopAddIn());
-  EXPECT_EQ(registered(), (Registered{0, 0, 0, 0, GetParam().left.terminatedHandlers}));
+  EXPECT_EQ(registered(), (Registered{0, 0, 0, 0, row().left.terminatedHandlers}));
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Refused, ToolbarStart,
-                         ::testing::Values(Refusal{"Application.get", 1, Ending::False, {}},
-                                           Refusal{"Application.userInterface", 1, Ending::False, {}},
-                                           Refusal{"UserInterface.workspaces", 1, Ending::Raises, {}},
-                                           Refusal{"Workspaces.itemById", 1, Ending::False, {}},
-                                           Refusal{"Workspace.toolbarTabs", 1, Ending::Raises, {}},
-                                           Refusal{"ToolbarTabs.itemById", 1, Ending::False, {}},
-                                           Refusal{"Workspace.toolbarTabs", 2, Ending::Raises, {}},
-                                           Refusal{"ToolbarTabs.itemById", 2, Ending::False, {}},
-                                           Refusal{"ToolbarTab.toolbarPanels", 1, Ending::Raises, {}},
-                                           Refusal{"ToolbarPanels.add", 1, Ending::Raises, {1, 4}},
-                                           Refusal{"ToolbarTab.toolbarPanels", 2, Ending::Raises, {1}},
-                                           Refusal{"ToolbarPanels.add", 2, Ending::Raises, {1, 4, 1}},
-                                           Refusal{"UserInterface.commandDefinitions", 1, Ending::Raises, {2}},
-                                           Refusal{"CommandDefinitions.addButtonDefinition", 1, Ending::False, {2, 0}},
-                                           Refusal{"CommandDefinitions.addButtonDefinition", 2, Ending::False, {2, 1}},
-                                           Refusal{"CommandDefinitions.addButtonDefinition", 3, Ending::False, {2, 2}},
-                                           Refusal{"CommandDefinitions.addButtonDefinition", 4, Ending::False, {2, 3}},
-                                           Refusal{"ToolbarPanel.controls", 1, Ending::Raises, {2, 4, 0}},
-                                           Refusal{"ToolbarPanel.controls", 2, Ending::Raises, {2, 4, 1}},
-                                           Refusal{"ToolbarPanel.controls", 3, Ending::Raises, {2, 4, 2}},
-                                           Refusal{"ToolbarPanel.controls", 4, Ending::Raises, {2, 4, 3}},
-                                           Refusal{"ToolbarControls.addCommand", 1, Ending::False, {2, 4, 0}},
-                                           Refusal{"ToolbarControls.addCommand", 2, Ending::False, {2, 4, 1}},
-                                           Refusal{"ToolbarControls.addCommand", 3, Ending::False, {2, 4, 2}},
-                                           Refusal{"ToolbarControls.addCommand", 4, Ending::False, {2, 4, 3}},
-                                           Refusal{"CommandControl.isPromoted=", 1, Ending::True, everything},
-                                           Refusal{"CommandDefinition.commandCreated", 1, Ending::False, {2, 4, 4, 0}},
-                                           Refusal{"CommandDefinition.commandCreated", 2, Ending::False, {2, 4, 4, 0}},
-                                           Refusal{"CommandCreatedEvent.add", 1, Ending::False, {2, 4, 4, 0}},
-                                           Refusal{"CommandCreatedEvent.add", 2, Ending::False, {2, 4, 4, 1}},
-                                           Refusal{"CommandDefinition.commandCreated", 3, Ending::False, {2, 4, 4, 2}},
-                                           Refusal{"CommandDefinition.commandCreated", 4, Ending::False, {2, 4, 4, 2}},
-                                           Refusal{"CommandCreatedEvent.add", 3, Ending::False, {2, 4, 4, 2}},
-                                           Refusal{"CommandCreatedEvent.add", 4, Ending::False, {2, 4, 4, 3}},
-                                           Refusal{
-                                               "UserInterface.commandTerminated", 1, Ending::False, {2, 4, 4, 4, 0}},
-                                           Refusal{"ApplicationCommandEvent.add", 1, Ending::True, {2, 4, 4, 4, 0}}),
-                         nameOf);
 
 }  // namespace
 }  // namespace tests

@@ -2,6 +2,7 @@
 
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -26,7 +27,9 @@ class UsersGuide : public AddInTest {
 
 class UsersGuideUnderProfile : public AddInUnderProfile {};
 
-TEST_P(UsersGuideUnderProfile, OpensFromEitherButton) {
+TABLE_OF_PROFILES(UsersGuideUnderProfile);
+
+TABLE_TEST(UsersGuideUnderProfile, OpensFromEitherButton) {
   const std::string guide = addGuide(folder);
   start(profile());
   session().press("idOpenHelp");
@@ -37,14 +40,14 @@ TEST_P(UsersGuideUnderProfile, OpensFromEitherButton) {
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
 
-TEST_P(UsersGuideUnderProfile, MissesWithoutAWordWhenItIsNotThere) {
+TABLE_TEST(UsersGuideUnderProfile, MissesWithoutAWordWhenItIsNotThere) {
   start(profile());
   session().press("idOpenHelp");
   EXPECT_THAT(openedFiles(), IsEmpty());
   EXPECT_THAT(session().messageBoxes(), IsEmpty());
 }
 
-TEST_P(UsersGuideUnderProfile, StaysClosedWhenTheMainCommandExecutes) {
+TABLE_TEST(UsersGuideUnderProfile, StaysClosedWhenTheMainCommandExecutes) {
   addGuide(folder);
   startDialog(profile());
   session().pick("Base");
@@ -53,8 +56,6 @@ TEST_P(UsersGuideUnderProfile, StaysClosedWhenTheMainCommandExecutes) {
   EXPECT_NE(host().gate().traceText().find("# event execute(idAssetsMatMng)"), std::string::npos);
   EXPECT_THAT(openedFiles(), IsEmpty());
 }
-
-INSTANTIATE_UNDER_ALL_PROFILES(UsersGuideUnderProfile);
 
 TEST_F(UsersGuide, OpensWhileTheDialogIsOpenWhichItEnds) {
   startDialog();
@@ -88,32 +89,32 @@ struct MissingLink {
   const char* raisingEvent;
 };
 
-class UsersGuideLink : public UsersGuide, public ::testing::WithParamInterface<MissingLink> {};
+class UsersGuideLink : public UsersGuide, public WithRow<MissingLink> {};
 
-TEST_P(UsersGuideLink, IsNeededToOpenTheGuide) {
+TABLE(Missing, UsersGuideLink,
+      [](const auto& row) {
+        std::string name = row.call;
+        return name.erase(name.find('.'), 1);
+      },
+      {{"CommandCreatedEventArgs.command", "commandCreated(idOpenHelp)"},
+       {"Command.execute", "commandCreated(idOpenHelp)"},
+       {"CommandEvent.add", ""},
+       {"CommandEventArgs.command", "execute(idOpenHelp)"},
+       {"Command.parentCommandDefinition", "execute(idOpenHelp)"},
+       {"CommandDefinition.id", ""}});
+
+TABLE_TEST(UsersGuideLink, IsNeededToOpenTheGuide) {
   start();
-  host().gate().setFault({1, FaultAnswer::Nothing, GetParam().call});
+  host().gate().setFault({1, FaultAnswer::Nothing, row().call});
   session().press("idOpenHelp");
   EXPECT_TRUE(host().gate().faultStruck());
   EXPECT_THAT(openedFiles(), IsEmpty());
-  if (std::string(GetParam().raisingEvent).empty()) {
+  if (std::string(row().raisingEvent).empty()) {
     EXPECT_THAT(takeErrors(), IsEmpty());
   } else {
-    EXPECT_THAT(takeErrors(), ElementsAre(StartsWith(std::string(GetParam().raisingEvent) + ": std::exception:")));
+    EXPECT_THAT(takeErrors(), ElementsAre(StartsWith(std::string(row().raisingEvent) + ": std::exception:")));
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Missing, UsersGuideLink,
-                         ::testing::Values(MissingLink{"CommandCreatedEventArgs.command", "commandCreated(idOpenHelp)"},
-                                           MissingLink{"Command.execute", "commandCreated(idOpenHelp)"},
-                                           MissingLink{"CommandEvent.add", ""},
-                                           MissingLink{"CommandEventArgs.command", "execute(idOpenHelp)"},
-                                           MissingLink{"Command.parentCommandDefinition", "execute(idOpenHelp)"},
-                                           MissingLink{"CommandDefinition.id", ""}),
-                         [](const auto& info) {
-                           std::string name = info.param.call;
-                           return name.erase(name.find('.'), 1);
-                         });
 
 }  // namespace
 }  // namespace tests

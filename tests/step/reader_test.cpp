@@ -18,6 +18,7 @@
 #include "tests/step/edited_file.h"
 #include "tests/step/made_designs.h"
 #include "tests/step/step_files.h"
+#include "tests/support/tables.h"
 
 namespace headless::step {
 namespace {
@@ -107,28 +108,27 @@ struct FileCase {
   Contents contents;
 };
 
-class ReaderFiles : public ::testing::TestWithParam<FileCase> {};
+class ReaderFiles : public ::testing::Test, public tests::WithRow<FileCase> {};
 
-TEST_P(ReaderFiles, GiveTheirWholeContents) {
-  WITH_STEP_FILE(path, GetParam().file);
+TABLE(Reader, ReaderFiles,
+      [](const auto& row) {
+        std::string name = row.file;
+        std::replace_if(
+            name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
+        return name;
+      },
+      {{"as1-oc-214.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
+       {"as1-tu-203.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
+       {"dm1-id-214.stp", "dm1", {4, 3, 24, 7, 3, 0, 3, 2}},
+       {"io1-cm-214.stp", "io1-cm-214", {2, 1, 29, 1, 1, 2, 2, 2}},
+       {"red_cube_blue_cylinder.step", "red_cube_blue_cylinder", {3, 2, 9, 2, 0, 9, 2, 2}}});
+
+TABLE_TEST(ReaderFiles, GiveTheirWholeContents) {
+  WITH_STEP_FILE(path, row().file);
   const auto design = read(path);
-  EXPECT_EQ(design->root().name, GetParam().root);
-  EXPECT_EQ(contentsOf(*design), GetParam().contents);
+  EXPECT_EQ(design->root().name, row().root);
+  EXPECT_EQ(contentsOf(*design), row().contents);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Reader, ReaderFiles,
-    ::testing::Values(FileCase{"as1-oc-214.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
-                      FileCase{"as1-tu-203.stp", "as1", {9, 5, 53, 27, 5, 0, 5, 4}},
-                      FileCase{"dm1-id-214.stp", "dm1", {4, 3, 24, 7, 3, 0, 3, 2}},
-                      FileCase{"io1-cm-214.stp", "io1-cm-214", {2, 1, 29, 1, 1, 2, 2, 2}},
-                      FileCase{"red_cube_blue_cylinder.step", "red_cube_blue_cylinder", {3, 2, 9, 2, 0, 9, 2, 2}}),
-    [](const auto& info) {
-      std::string name = info.param.file;
-      std::replace_if(
-          name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-      return name;
-    });
 
 TEST(Reader, ReadsAp242) {
   const TemporaryFolder folder;
@@ -292,38 +292,36 @@ struct BadFile {
   const char* reason;
 };
 
-class ReaderErrors : public ::testing::TestWithParam<BadFile> {};
+#define STEP_HEADER                                                                               \
+  "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n" \
+  "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n"
+#define STEP_END "ENDSEC;\nEND-ISO-10303-21;\n"
 
-TEST_P(ReaderErrors, NameTheFileAndTheReason) {
+class ReaderErrors : public ::testing::Test, public tests::WithRow<BadFile> {};
+
+TABLE(Reader, ReaderErrors, [](const auto& row) { return row.title; },
+      {{"Empty", "", "the file is empty"},
+       {"Text", "solid cube\n", "this is not a STEP file"},
+       {"Truncated", STEP_HEADER "#1=CARTESIAN_POINT('',(0.,0.,", "the file ends early"},
+       {"Nothing", "ISO-10303-21;\nEND-ISO-10303-21;\n", "the file is damaged"},
+       {"Syntax", STEP_HEADER "#1=CARTESIAN_POINT('',((;\n" STEP_END, "the file is damaged"},
+       {"Reference", STEP_HEADER "#1=VERTEX_POINT('',#2);\n" STEP_END, "Unresolved Reference"},
+       {"NoShapes", STEP_HEADER "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" STEP_END,
+        "it holds no shapes (schema: AUTOMOTIVE_DESIGN)"}});
+
+TABLE_TEST(ReaderErrors, NameTheFileAndTheReason) {
   const TemporaryFolder folder;
   const auto file = folder / "bad.stp";
-  fillFile(file, GetParam().content);
+  fillFile(file, row().content);
   try {
     read(file);
     FAIL() << "was read";
   } catch (const Error& error) {
     const std::string message = error.what();
     EXPECT_NE(message.find("\"" + file.u8string() + "\""), std::string::npos) << message;
-    EXPECT_NE(message.find(GetParam().reason), std::string::npos) << message;
+    EXPECT_NE(message.find(row().reason), std::string::npos) << message;
   }
 }
-
-#define STEP_HEADER                                                                               \
-  "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n" \
-  "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n"
-#define STEP_END "ENDSEC;\nEND-ISO-10303-21;\n"
-
-INSTANTIATE_TEST_SUITE_P(
-    Reader, ReaderErrors,
-    ::testing::Values(BadFile{"Empty", "", "the file is empty"},
-                      BadFile{"Text", "solid cube\n", "this is not a STEP file"},
-                      BadFile{"Truncated", STEP_HEADER "#1=CARTESIAN_POINT('',(0.,0.,", "the file ends early"},
-                      BadFile{"Nothing", "ISO-10303-21;\nEND-ISO-10303-21;\n", "the file is damaged"},
-                      BadFile{"Syntax", STEP_HEADER "#1=CARTESIAN_POINT('',((;\n" STEP_END, "the file is damaged"},
-                      BadFile{"Reference", STEP_HEADER "#1=VERTEX_POINT('',#2);\n" STEP_END, "Unresolved Reference"},
-                      BadFile{"NoShapes", STEP_HEADER "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" STEP_END,
-                              "it holds no shapes (schema: AUTOMOTIVE_DESIGN)"}),
-    [](const auto& info) { return info.param.title; });
 
 TEST(Reader, SaysWhenThereIsNoFile) {
   const TemporaryFolder folder;

@@ -13,6 +13,7 @@
 #include "host/step/shape.h"
 #include "tests/step/made_designs.h"
 #include "tests/step/step_files.h"
+#include "tests/support/tables.h"
 
 namespace headless::step {
 namespace {
@@ -267,10 +268,14 @@ TEST_F(Writer, LeavesTheDefaultMaterialOut) {
   EXPECT_EQ(contentOf(file).find("material property"), std::string::npos);
 }
 
-class WriterFiles : public ::testing::TestWithParam<const char*> {};
+class WriterFiles : public ::testing::Test, public tests::WithRow<const char*> {};
 
-TEST_P(WriterFiles, ComeBackTheSameWithPaint) {
-  WITH_STEP_FILE(path, GetParam());
+TABLE(Writer, WriterFiles, tests::byNumber,
+      {"as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp", "red_cube_blue_cylinder.step",
+       "motor-driver-board-v3.5.step"});
+
+TABLE_TEST(WriterFiles, ComeBackTheSameWithPaint) {
+  WITH_STEP_FILE(path, row());
   const TemporaryFolder folder;
   const auto design = read(path);
   int number = 0;
@@ -282,10 +287,6 @@ TEST_P(WriterFiles, ComeBackTheSameWithPaint) {
   write(*design, folder / "painted.stp");
   EXPECT_EQ(describe(*read(folder / "painted.stp")), describe(*design));
 }
-
-INSTANTIATE_TEST_SUITE_P(Writer, WriterFiles,
-                         ::testing::Values("as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp",
-                                           "red_cube_blue_cylinder.step", "motor-driver-board-v3.5.step"));
 
 TEST_F(Writer, NeedsNoFileAnyMore) {
   WITH_STEP_FILE(path, "as1-tu-203.stp");

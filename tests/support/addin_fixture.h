@@ -14,6 +14,7 @@
 #include "tests/support/addin_folder.h"
 #include "tests/support/designs.h"
 #include "tests/support/libraries.h"
+#include "tests/support/tables.h"
 
 namespace tests {
 
@@ -101,14 +102,12 @@ class AddInTest : public ::testing::Test {
   std::unique_ptr<headless::Session> session_;
 };
 
-/// The same under each of the three host profiles: INSTANTIATE_UNDER_ALL_PROFILES(MyTest).
-class AddInUnderProfile : public AddInTest, public ::testing::WithParamInterface<std::string> {
+/// The same under each of the three host profiles: TABLE_OF_PROFILES(MyTest).
+class AddInUnderProfile : public AddInTest, public WithRow<std::string> {
  protected:
-  headless::Profile profile() const { return headless::profileNamed(GetParam()); }
+  headless::Profile profile() const { return headless::profileNamed(row()); }
 };
 
 }  // namespace tests
 
-#define INSTANTIATE_UNDER_ALL_PROFILES(Fixture)                                              \
-  INSTANTIATE_TEST_SUITE_P(Profiles, Fixture, ::testing::ValuesIn(headless::profileNames()), \
-                           [](const auto& info) { return std::string(info.param); })
+#define TABLE_OF_PROFILES(Fixture) TABLE(Profiles, Fixture, ::tests::byText, headless::profileNames())

@@ -4,6 +4,7 @@
 
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
+#include "tests/support/tables.h"
 #include "tests/support/trace.h"
 
 namespace tests {
@@ -37,10 +38,16 @@ headless::Profile lenientHost() {
   return headless::lenientProfile();
 }
 
-class WindowsShownFolder : public WindowsModulePath, public ::testing::WithParamInterface<const char*> {};
+class WindowsShownFolder : public WindowsModulePath, public WithRow<const char*> {};
 
-TEST_P(WindowsShownFolder, HoldsGuideLibrariesAndSettings) {
-  moveTo(GetParam());
+TABLE(Names, WindowsShownFolder, byNumber,
+      {"my add ins",
+       "Gr\xC3\xB6\xC3\x9F"
+       "e \xE2\x82\xAC",
+       "a;b & c %d"});
+
+TABLE_TEST(WindowsShownFolder, HoldsGuideLibrariesAndSettings) {
+  moveTo(row());
   start(lenientHost());
   session().press("idOpenHelp");
   EXPECT_THAT(openedFiles(), ElementsAre(guide()));
@@ -54,12 +61,6 @@ TEST_P(WindowsShownFolder, HoldsGuideLibrariesAndSettings) {
   openDialog();
   EXPECT_EQ(shown("idMaterialList"), "Foam");
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, WindowsShownFolder,
-                         ::testing::Values("my add ins",
-                                           "Gr\xC3\xB6\xC3\x9F"
-                                           "e \xE2\x82\xAC",
-                                           "a;b & c %d"));
 
 TEST_F(WindowsModulePath, WithCharactersThatTheCodePageCannotShowHasBlanksInTheirPlace) {
   moveTo("\xD0\x96\xD0\xA3\xD0\x9A");
@@ -78,11 +79,14 @@ struct Letter {
   const char* utf8;
 };
 
-class WindowsMissingLetter : public WindowsModulePath, public ::testing::WithParamInterface<Letter> {};
+class WindowsMissingLetter : public WindowsModulePath, public WithRow<Letter> {};
+
+TABLE(Letters, WindowsMissingLetter, byName,
+      {{"Zhe", "\xD0\x96"}, {"LWithStroke", "\xC5\x81"}, {"DivisionSlash", "\xE2\x88\x95"}});
 
 // The other folder has everything that an add-in needs, so that all of it is used there and nothing here.
-TEST_P(WindowsMissingLetter, IsABlankWhichMayLeadToAnotherFolder) {
-  moveTo(std::string("x") + GetParam().utf8 + "y");
+TABLE_TEST(WindowsMissingLetter, IsABlankWhichMayLeadToAnotherFolder) {
+  moveTo(std::string("x") + row().utf8 + "y");
   // Where a letter that looks alike would lead.
   folder.write("xLy/Tintora_UsersGuide.pdf", "%PDF");
   const std::filesystem::path other = "x y";
@@ -103,10 +107,6 @@ TEST_P(WindowsMissingLetter, IsABlankWhichMayLeadToAnotherFolder) {
 }
 
 // An L with a stroke would otherwise become a plain one, and a slash of mathematics one of paths.
-INSTANTIATE_TEST_SUITE_P(Letters, WindowsMissingLetter,
-                         ::testing::Values(Letter{"Zhe", "\xD0\x96"}, Letter{"LWithStroke", "\xC5\x81"},
-                                           Letter{"DivisionSlash", "\xE2\x88\x95"}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 class WindowsLibraryName : public WindowsModulePath {
  protected:

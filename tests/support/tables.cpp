@@ -1,0 +1,29 @@
+#include "tests/support/tables.h"
+
+#include <numeric>
+
+namespace tests {
+
+const void*& rowOfNextTest() {
+  static const void* row = nullptr;
+  return row;
+}
+
+bool Table::addTest(const char* name, const char* file, int line, ::testing::Test* (*make)()) const {
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const std::string test = std::string(name) + "/" + names_[i];
+    ::testing::RegisterTest(suite_.c_str(), test.c_str(), nullptr, nullptr, file, line, [make, row = rows_[i]] {
+      rowOfNextTest() = row;
+      return make();
+    });
+  }
+  return true;
+}
+
+std::vector<std::size_t> numbersBelow(std::size_t end) {
+  std::vector<std::size_t> numbers(end);
+  std::iota(numbers.begin(), numbers.end(), std::size_t{0});
+  return numbers;
+}
+
+}  // namespace tests
