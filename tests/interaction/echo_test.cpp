@@ -15,14 +15,14 @@ using headless::Session;
 using ::testing::IsEmpty;
 
 /// Something that a user does in the dialog while the painted body "Base" is picked.
-struct UserAction {
+struct EchoedUse {
   const char* name;
   void (*run)(Session&);
   /// An echo that arrives later cannot be told from the user, so that this action ends otherwise.
   bool isUndoneByLateEcho = false;
 };
 
-const std::vector<UserAction> userActions = {
+const std::vector<EchoedUse> echoedUses = {
     {"ChooseFilter", [](Session& s) { s.choose("idFilterSelect", "Face"); }},
     {"ChooseAppearanceLibrary", [](Session& s) { s.choose("idLibAssets", "More looks"); }},
     {"ChooseMaterialLibrary", [](Session& s) { s.choose("idLibMaterials", "More materials"); }},
@@ -67,7 +67,7 @@ const std::vector<UserAction> userActions = {
     {"Remove", [](Session& s) { s.click("idRemoveAssignAppearance"); }},
 };
 
-class EchoedAction : public AddInTest, public WithRow<UserAction> {
+class EchoedAction : public AddInTest, public WithRow<EchoedUse> {
  protected:
   void SetUp() override {
     addAppearanceLibrary("More.adsklib", "More looks", {"Gold", "Silver"});
@@ -94,7 +94,7 @@ class EchoedAction : public AddInTest, public WithRow<UserAction> {
   }
 };
 
-TABLE(Actions, EchoedAction, byName, userActions);
+TABLE(Actions, EchoedAction, byName, echoedUses);
 
 TABLE_TEST(EchoedAction, EndsAsWithoutEchoWhenEchoesComeAtOnce) {
   const std::string withoutEcho = screenAfterAction(Echo::None);

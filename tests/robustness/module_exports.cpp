@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #ifdef _WIN32
-#include <windows.h>
+#include "tests/support/windows_calls.h"
 #else
 #include <array>
 #include <cstdio>

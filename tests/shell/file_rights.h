@@ -2,7 +2,7 @@
 #pragma once
 
 #ifdef _WIN32
-#include <windows.h>
+#include "tests/support/windows_calls.h"
 #else
 #include <unistd.h>
 #endif

@@ -2,14 +2,14 @@
 // they are told otherwise.
 #pragma once
 
-#include <windows.h>
-
 #include <filesystem>
 #include <stdexcept>
 
 #ifndef _WIN32
 #include <dlfcn.h>
 #endif
+
+#include "tests/support/windows_calls.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved);
 

@@ -1,11 +1,10 @@
 // Where the module lies, in folder names that only Windows makes difficult: its narrow paths are in the system's code
 // page, which cannot show every character. The tests expect the western European one (1252).
-#include <windows.h>
-
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
 #include "tests/support/tables.h"
 #include "tests/support/trace.h"
+#include "tests/support/windows_calls.h"
 
 namespace tests {
 namespace {

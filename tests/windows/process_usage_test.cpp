@@ -1,6 +1,6 @@
 // A module that comes and goes leaves the process as it was: no handle and no memory stays behind.
-#include <windows.h>
-// Needs windows.h before it.
+#include "tests/support/windows_calls.h"
+// Needs the Windows calls before it.
 #include <psapi.h>
 
 #include <cstdint>

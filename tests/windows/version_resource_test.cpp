@@ -1,11 +1,11 @@
 // What the properties of the module's file show.
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <string>
 #include <vector>
 
 #include "tests/support/addin_folder.h"
+#include "tests/support/windows_calls.h"
 
 namespace tests {
 namespace {

@@ -1,0 +1,7 @@
+// The Windows calls, without the macros that are names of ours elsewhere.
+#pragma once
+
+#include <windows.h>
+
+#undef MessageBox
+#undef TEXT
