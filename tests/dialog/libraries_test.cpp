@@ -35,7 +35,7 @@ using ::testing::StartsWith;
 class Libraries : public DialogTest {
  protected:
   /// Starts the add-in and builds the dialog, recording what it has the host load.
-  void build(Profile profile = headless::documentedProfile()) {
+  void build(Profile profile = usualProfile()) {
     start(std::move(profile));
     host().gate().startTrace();
     pressMainButton();
@@ -176,7 +176,7 @@ TEST_F(Libraries, AreFoundByTheNextDialogWhenTheyAreAddedMeanwhile) {
 }
 
 TEST_F(Libraries, AreMissingInASecondDialogWhereTheHostLoadsAFileOnce) {
-  Profile profile = headless::documentedProfile();
+  Profile profile = usualProfile();
   profile.secondLoad = headless::SecondLoad::Nothing;
   build(profile);
   EXPECT_THAT(inputIds(), SizeIs(16));

@@ -31,7 +31,7 @@ class EarlyEndOfBuild : public DialogTest, public WithRow<EarlyEnd> {
  protected:
   void buildUntilRefused() {
     // A command without inputs is executed at once; being started again would hide what is left.
-    Profile profile = headless::documentedProfile();
+    Profile profile = usualProfile();
     profile.executeFromTerminated = headless::ExecuteFromTerminated::Refused;
     folder.write(settingsFile(), "2");
     start(profile);

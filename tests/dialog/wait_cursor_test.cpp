@@ -50,7 +50,7 @@ TABLE(Calls, WaitCursorDuring,
 
 TABLE_TEST(WaitCursorDuring, IsShownFromTheFirstCallToTheLast) {
   // A command without inputs is executed at once; being started again would build a dialog after all.
-  headless::Profile profile = headless::documentedProfile();
+  headless::Profile profile = usualProfile();
   profile.executeFromTerminated = headless::ExecuteFromTerminated::Refused;
   start(profile);
   expectCursor(CursorShape::Arrow, 0);

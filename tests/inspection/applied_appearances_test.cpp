@@ -91,7 +91,7 @@ TEST_F(AppliedAppearances, OfTheRootComponentLeaveItsOwnBodiesOut) {
 }
 
 TEST_F(AppliedAppearances, AreNotThoseReportedAsOtherOverrides) {
-  headless::Profile profile = headless::documentedProfile();
+  headless::Profile profile = usualProfile();
   profile.ownAppearanceIsOverride = true;
   start(profile);
   body("Machine", "Base").appearance = look("Red");

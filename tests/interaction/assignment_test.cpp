@@ -25,7 +25,7 @@ constexpr const char* foam = "Foam";
 class Assignment : public AddInTest {
  protected:
   /// Opens the dialog and chooses the red appearance and the material "Foam".
-  void openAndChoose(headless::Profile profile = headless::documentedProfile()) {
+  void openAndChoose(headless::Profile profile = usualProfile()) {
     start(std::move(profile));
     openDialogAndChoose();
   }

@@ -20,7 +20,7 @@ using ::testing::IsEmpty;
 template <class Fixture>
 class WithPaintedBase : public Fixture {
  protected:
-  void openWithBasePicked(Profile profile = headless::documentedProfile()) {
+  void openWithBasePicked(Profile profile = usualProfile()) {
     this->start(std::move(profile));
     baseBody().appearance = this->look("Old paint");
     this->openDialog();

@@ -16,7 +16,7 @@ using ::testing::IsEmpty;
 template <class Fixture>
 class WithPaintedMachine : public Fixture {
  protected:
-  void openPainted(headless::Profile profile = headless::documentedProfile()) {
+  void openPainted(headless::Profile profile = usualProfile()) {
     this->start(std::move(profile));
     for (headless::model::Occurrence* each : this->design().root().allOccurrences()) {
       each->appearance = this->look("Paint");

@@ -17,7 +17,7 @@ using ::testing::UnorderedElementsAreArray;
 template <class Fixture>
 class WithPaintedBolt : public Fixture {
  protected:
-  void openWithPaintedBolt(headless::Profile profile = headless::documentedProfile()) {
+  void openWithPaintedBolt(headless::Profile profile = usualProfile()) {
     this->start(std::move(profile));
     bolt().appearance = this->look("Bolt paint");
     shank().appearance = this->look("Shank paint");

@@ -38,7 +38,7 @@ class CommandRestart : public AddInTest {
   }
 
   static Profile endingOnExecute() {
-    Profile profile = headless::documentedProfile();
+    Profile profile = usualProfile();
     profile.executeInDialog = ExecuteInDialog::EndsCommand;
     return profile;
   }

@@ -98,7 +98,7 @@ TEST_F(ToolbarRemoval, NothingIsDeletedWithoutTheWorkspace) {
 }
 
 TEST_F(ToolbarRemoval, HostWithoutControlsOfADeletedPanelHasEachStopEndThere) {
-  headless::Profile profile = headless::documentedProfile();
+  headless::Profile profile = usualProfile();
   profile.deletedPanelControls = headless::DeletedPanelControls::Nothing;
   start(profile);
   EXPECT_FALSE(session().stopAddIn());

@@ -15,6 +15,7 @@
 #include "tests/support/designs.h"
 #include "tests/support/libraries.h"
 #include "tests/support/tables.h"
+#include "tests/support/usual_profile.h"
 
 namespace tests {
 
@@ -33,19 +34,18 @@ class AddInTest : public ::testing::Test {
 
   /// Starts a host with that profile, opens the machine of designs.h, and loads and runs the add-in, which must
   /// succeed.
-  void start(headless::Profile profile = headless::documentedProfile());
+  void start(headless::Profile profile = usualProfile());
   /// The same with another design.
-  void start(std::unique_ptr<headless::model::Design> design,
-             headless::Profile profile = headless::documentedProfile());
+  void start(std::unique_ptr<headless::model::Design> design, headless::Profile profile = usualProfile());
   /// The same without opening anything or running the add-in: it is only loaded.
-  void load(headless::Profile profile = headless::documentedProfile());
+  void load(headless::Profile profile = usualProfile());
   /// Ends the session, as when the host is closed: the module is stopped and unloaded. start() may follow.
   void finish();
 
   /// Presses the main button. With start(), the dialog must open without anything being raised.
   void openDialog();
   /// start() and openDialog() in one.
-  void startDialog(headless::Profile profile = headless::documentedProfile());
+  void startDialog(headless::Profile profile = usualProfile());
 
   headless::Session& session();
   headless::Host& host() { return session().host(); }
