@@ -48,9 +48,10 @@ void LibraryBuilderTest::start(headless::Profile profile) {
 
 void LibraryBuilderTest::finish() {
   if (session_ != nullptr && keepsJournals()) {
-    keepJournal(host().gate().journalText(), {});
+    keepJournal(host().gate().journalText(), {}, about);
   }
   session_ = nullptr;
+  about.clear();
 }
 
 bool LibraryBuilderTest::build() {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/runtime/session.h"
+#include "tests/support/usual_profile.h"
 
 namespace tests {
 
@@ -32,7 +33,7 @@ class LibraryBuilderTest : public ::testing::Test {
   ~LibraryBuilderTest() override;
 
   /// Starts a fresh host.
-  void start(headless::Profile profile = headless::documentedProfile());
+  void start(headless::Profile profile = usualProfile());
 
   headless::Session& session() { return *session_; }
   headless::Host& host() { return session().host(); }
@@ -53,6 +54,9 @@ class LibraryBuilderTest : public ::testing::Test {
   headless::MessageBox lastMessage();
   /// The errors so far, as "where: what"; they no longer fail the test.
   std::vector<std::string> takeErrors();
+
+  /// What the session is about that runs now, for its journal.
+  std::string about;
 
  private:
   void finish();

@@ -54,6 +54,7 @@ class LibraryBuilderFaultSweep : public LibraryBuilderTest, public WithRow<std::
   void sweep(const std::string& call, std::size_t nth) {
     SCOPED_TRACE(call + " number " + std::to_string(nth));
     prepare();
+    about = call + " number " + std::to_string(nth);
     host().gate().setFault({nth, answer(), call});
     const bool isDone = buildAFew();
     EXPECT_TRUE(host().gate().faultStruck());

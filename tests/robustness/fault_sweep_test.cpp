@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <set>
-#include <sstream>
 
 #include "tests/robustness/scenario.h"
 #include "tests/support/addin_fixture.h"
@@ -36,32 +35,30 @@ class FaultSweep : public AddInTest {
   void useProfile(const headless::Profile& used) {
     profile = used;
     folder.remove(settingsFile());
-    faultless = play();
+    faultless = play("without faults");
     settingsTried.clear();
   }
 
-  ~FaultSweep() override {
-    if (!journal.empty()) {
-      keepJournal(journal, {});
-    }
-  }
-
-  Outcome play(const std::function<void(Host&)>& prepare = [](Host& /*host*/) {}) const {
-    return playScenario(folder.module(), profile, prepare);
-  }
-
-  void sweep(const Fault& fault) {
-    SCOPED_TRACE(fault.call + " number " + std::to_string(fault.nth));
-    folder.remove(settingsFile());
-    const Outcome failed = play([&](Host& host) {
-      host.gate().setFault(fault);
+  Outcome play(
+      const std::string& about, const std::function<void(Host&)>& prepare = [](Host& /*host*/) {}) const {
+    const Outcome outcome = playScenario(folder.module(), profile, [&](Host& host) {
+      prepare(host);
       if (keepsJournals()) {
         host.gate().startJournal();
       }
     });
     if (keepsJournals()) {
-      addToJournal(fault, failed.journal);
+      keepJournal(outcome.journal, folder.path(), profile.name + ", " + about);
     }
+    return outcome;
+  }
+
+  void sweep(const Fault& fault) {
+    const std::string name = fault.call + " number " + std::to_string(fault.nth);
+    SCOPED_TRACE(name);
+    folder.remove(settingsFile());
+    const Outcome failed = play(name + (fault.answer == FaultAnswer::Nothing ? " answers nothing" : " raises"),
+                                [&](Host& host) { host.gate().setFault(fault); });
     EXPECT_TRUE(failed.faultStruck);
     EXPECT_THAT(failed.findings, testing::IsEmpty());
     expectHarmless(failed.errors, fault);
@@ -69,7 +66,7 @@ class FaultSweep : public AddInTest {
     EXPECT_THAT(failed.misuses, testing::Each(testing::HasSubstr("CommandInput.")));
     // All that a sitting hands to the next one is the settings file: each one that comes of a fault is tried once.
     if (settingsTried.insert(folder.has(settingsFile()) ? folder.read(settingsFile()) : "none").second) {
-      expectSameAsFaultless(play());
+      expectSameAsFaultless(play("with the settings of the one before"));
     }
   }
 
@@ -101,17 +98,6 @@ class FaultSweep : public AddInTest {
   Outcome faultless;
 
  private:
-  // The sittings of a sweep in full would be hundreds of megabytes.
-  void addToJournal(const Fault& fault, const std::string& sitting) {
-    std::ostringstream line;
-    line << profile.name << ", " << fault.call << " number " << fault.nth
-         << (fault.answer == FaultAnswer::Nothing ? " answers nothing: " : " raises: ")
-         << std::count(sitting.begin(), sitting.end(), '\n') << " calls and events, digest " << std::hex
-         << digestOfJournal(sitting, folder.path()) << "\n";
-    journal += line.str();
-  }
-
-  std::string journal;
   std::set<std::string> settingsTried;
 };
 
@@ -131,7 +117,7 @@ class WholeSitting : public FaultSweep, public WithRow<std::string> {
  protected:
   std::string journalOfASitting() {
     folder.remove(settingsFile());
-    return play([](Host& host) { host.gate().startJournal(); }).journal;
+    return play("whole", [](Host& host) { host.gate().startJournal(); }).journal;
   }
 };
 
@@ -142,9 +128,6 @@ TABLE_TEST(WholeSitting, MakesTheSameCallsEveryTime) {
   const std::string journal = journalOfASitting();
   EXPECT_GT(std::count(journal.begin(), journal.end(), '\n'), 1000);
   EXPECT_EQ(journal, journalOfASitting());
-  if (keepsJournals()) {
-    keepJournal(journal, folder.path());
-  }
 }
 
 /// Which call of each name fails.

@@ -7,27 +7,51 @@ import unittest
 
 PROGRAM = pathlib.Path(__file__).resolve().parents[2] / "scripts" / "lib" / "compare_journals"
 CALLS = "Application.get() -> Application\nApplication.userInterface() -> UserInterface\n"
+PROFILES = "lenient", "documented", "hostile"
+
+
+def sitting(calls):
+    """A journal of one sitting, with each line written out."""
+    lines = (calls if isinstance(calls, bytes) else calls.encode()).splitlines(keepends=True)
+    return b"=sitting 1\n" + b"".join(b"+" + line for line in lines)
+
+
+def keep(folder, profiles):
+    for profile, journals in profiles.items():
+        place = pathlib.Path(folder, profile)
+        place.mkdir(parents=True)
+        for scenario, journal in journals.items():
+            (place / f"{scenario}.txt").write_bytes(journal)
 
 
 class CompareJournals(unittest.TestCase):
-    def compare(self, native, windows):
+    def compare_profiles(self, native, windows):
         with tempfile.TemporaryDirectory() as folder:
-            for name, journals in (("native", native), ("windows", windows)):
-                place = pathlib.Path(folder, name)
-                place.mkdir()
-                for scenario, text in journals.items():
-                    (place / f"{scenario}.1.txt").write_bytes(text if isinstance(text, bytes) else text.encode())
+            keep(f"{folder}/native", native)
+            keep(f"{folder}/windows", windows)
             return subprocess.run([PROGRAM, f"{folder}/native", f"{folder}/windows"], capture_output=True, text=True)
+
+    def compare_journals(self, native, windows):
+        """Of the documented profile; under the others both are the same."""
+        others = {profile: {"Suite.Other": sitting(CALLS)} for profile in PROFILES}
+        return self.compare_profiles({**others, "documented": native}, {**others, "documented": windows})
+
+    def compare(self, native, windows):
+        """The same of scenarios with one sitting each."""
+        both = ({name: sitting(calls) for name, calls in system.items()} for system in (native, windows))
+        return self.compare_journals(*both)
 
     def test_the_same_calls_are_the_same(self):
         outcome = self.compare({"Suite.Test": CALLS}, {"Suite.Test": CALLS})
         self.assertEqual(outcome.returncode, 0)
-        self.assertIn("1 scenarios with 2 calls and events compared, 0 differ, 0 are equal but", outcome.stdout)
+        for profile in PROFILES:
+            counted = f"{profile}: 1 scenarios with 2 calls and events compared, 0 differ, 0 are equal but"
+            self.assertIn(counted, outcome.stdout)
 
     def test_another_answer_is_shown_with_the_calls_before_it(self):
         outcome = self.compare({"Suite.Test": CALLS}, {"Suite.Test": CALLS.replace("UserInterface\n", "none\n")})
         self.assertEqual(outcome.returncode, 1)
-        self.assertIn("Suite.Test.1.txt, line 2:\n      Application.get()", outcome.stdout)
+        self.assertIn("documented/Suite.Test, sitting 1, line 2:\n      Application.get()", outcome.stdout)
         self.assertIn("    + Application.userInterface() -> none", outcome.stdout)
 
     def test_a_call_too_few_is_a_difference(self):
@@ -47,8 +71,57 @@ class CompareJournals(unittest.TestCase):
             with self.subTest(native=native, windows=windows):
                 self.assertEqual(self.compare({**both, **native}, {**both, **windows}).returncode, code)
 
+    def test_a_scenario_of_one_system_is_named_with_its_profile(self):
+        outcome = self.compare({"Suite.Test": CALLS}, {"Suite.Test": CALLS, "Paths.Test": CALLS})
+        self.assertIn("only on Windows: documented/Paths.Test", outcome.stdout)
+
     def test_nothing_to_compare_is_an_error(self):
         self.assertEqual(self.compare({}, {}).returncode, 1)
+
+    def test_a_profile_is_missed_on_one_system_and_on_both(self):
+        journals = {"Suite.Test": sitting(CALLS)}
+        whole = {profile: journals for profile in PROFILES}
+        for profile in PROFILES:
+            rest = {other: journals for other in PROFILES if other != profile}
+            for native, windows in ((rest, whole), (whole, rest), (rest, rest)):
+                with self.subTest(profile=profile, native=native.keys(), windows=windows.keys()):
+                    outcome = self.compare_profiles(native, windows)
+                    self.assertEqual(outcome.returncode, 1)
+                    self.assertIn(f"{profile}: there is nothing to compare", outcome.stdout)
+
+    def test_a_difference_under_any_profile_is_shown(self):
+        journals = {"Suite.Test": sitting(CALLS)}
+        whole = {profile: journals for profile in PROFILES}
+        for profile in PROFILES:
+            with self.subTest(profile=profile):
+                outcome = self.compare_profiles(whole, {**whole, profile: {"Suite.Test": sitting(CALLS[:-1] + "!\n")}})
+                self.assertEqual(outcome.returncode, 1)
+                self.assertIn(f"{profile}/Suite.Test, sitting 1, line 2:", outcome.stdout)
+
+    def test_known_lines_stand_for_calls_that_are_counted_and_shown(self):
+        first = b"=sitting 1, whole\n+A.a() -> 1\n+A.b() -> 2\n+A.c() -> 3\n"
+        native = first + b"=sitting 2, A.b number 1 raises\n1-3\n1\n"
+        windows = first + b"=sitting 2, A.b number 1 raises\n1-2\n+A.c() -> 4\n1\n"
+        outcome = self.compare_journals({"Suite.Test": native}, {"Suite.Test": native})
+        self.assertEqual(outcome.returncode, 0)
+        self.assertIn("documented: 1 scenarios with 7 calls", outcome.stdout)
+        outcome = self.compare_journals({"Suite.Test": native}, {"Suite.Test": windows})
+        self.assertEqual(outcome.returncode, 1)
+        self.assertIn(
+            "documented/Suite.Test, sitting 2, A.b number 1 raises, line 3:\n"
+            "      A.a() -> 1\n      A.b() -> 2\n    - A.c() -> 3\n    + A.c() -> 4\n",
+            outcome.stdout,
+        )
+
+    def test_a_sitting_too_few_is_a_difference(self):
+        native = b"=sitting 1\n+A.a() -> 1\n=sitting 2\n1\n"
+        outcome = self.compare_journals({"Suite.Test": native}, {"Suite.Test": native[: native.index(b"=sitting 2")]})
+        self.assertEqual(outcome.returncode, 1)
+        self.assertIn("    - =sitting 2\n    + (ends here)", outcome.stdout)
+
+    def test_a_call_whose_argument_has_several_lines_counts_once(self):
+        outcome = self.compare(*2 * [{"Suite.Test": '# event\nUserInterface.messageBox("One\ntwo\n\nthree") -> 0\n'}])
+        self.assertIn("documented: 1 scenarios with 2 calls and events compared", outcome.stdout)
 
     def test_only_looks_that_are_put_back_may_come_in_another_order(self):
         put_back = [f"BRepBody({name}).appearance=(Appearance(Red)) -> true\n" for name in ("A", "B")]

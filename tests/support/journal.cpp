@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <stdexcept>
+#include <unordered_map>
 #include <utility>
 
 namespace tests {
@@ -24,25 +26,82 @@ void replaceAll(std::string& text, const std::string& part, const std::string& r
   }
 }
 
-std::string comparable(std::string journal, const fs::path& addInFolder) {
-  std::replace(journal.begin(), journal.end(), '\\', '/');
+std::string comparable(std::string calls, const fs::path& addInFolder) {
+  replaceAll(calls, "\\", "/");
   if (!addInFolder.empty()) {
-    replaceAll(journal, addInFolder.generic_u8string(), "<add-in>");
+    replaceAll(calls, addInFolder.generic_u8string(), "<add-in>");
   }
-  return journal;
+  return calls;
 }
 
-/// A name that no journal has yet: a test may open several sessions.
-fs::path nextJournal() {
+class Journal {
+ public:
+  explicit Journal(const std::string& testName)
+      : test(testName), file(fs::u8path(journalFolder()) / (testName + ".txt")) {
+    fs::create_directories(file.parent_path());
+    stream.open(file, std::ios::binary);
+  }
+
+  bool isOf(const std::string& testName) const { return test == testName; }
+
+  void add(const std::string& calls, const std::string& about) {
+    stream << "=sitting " << ++sittings << (about.empty() ? "" : ", ") << about << "\n";
+    for (std::size_t at = 0; at < calls.size();) {
+      const std::size_t end = std::min(calls.find('\n', at), calls.size());
+      addLine(calls.substr(at, end - at));
+      at = end + 1;
+    }
+    endRun();
+    if (!stream.flush()) {
+      throw std::runtime_error("cannot write " + file.u8string());
+    }
+  }
+
+ private:
+  void addLine(std::string line) {
+    const auto [known, isNew] = numbers.try_emplace(std::move(line), numbers.size() + 1);
+    const std::size_t number = known->second;
+    if (isNew) {
+      endRun();
+      stream << "+" << known->first << "\n";
+    } else if (runLast != 0 && number == runLast + 1) {
+      runLast = number;
+    } else {
+      endRun();
+      runFirst = runLast = number;
+    }
+  }
+
+  /// Writes the known lines in a row that were not written yet.
+  void endRun() {
+    if (runLast != 0) {
+      stream << runFirst;
+      if (runLast != runFirst) {
+        stream << "-" << runLast;
+      }
+      stream << "\n";
+    }
+    runFirst = runLast = 0;
+  }
+
+  std::string test;
+  fs::path file;
+  std::ofstream stream;
+  std::size_t sittings = 0;
+  std::unordered_map<std::string, std::size_t> numbers;
+  std::size_t runFirst = 0;
+  std::size_t runLast = 0;
+};
+
+Journal& journalOfThisTest() {
+  static std::optional<Journal> journal;
   const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
   std::string name = std::string(test.test_suite_name()) + "." + test.name();
   std::replace(name.begin(), name.end(), '/', '.');
-  for (int number = 1;; ++number) {
-    const fs::path file = fs::u8path(journalFolder()) / (name + "." + std::to_string(number) + ".txt");
-    if (!fs::exists(file)) {
-      return file;
-    }
+  if (!journal || !journal->isOf(name)) {
+    journal.emplace(name);
   }
+  return *journal;
 }
 
 }  // namespace
@@ -51,22 +110,8 @@ bool keepsJournals() {
   return journalFolder() != nullptr;
 }
 
-void keepJournal(std::string journal, const fs::path& addInFolder) {
-  const fs::path file = nextJournal();
-  std::ofstream stream(file, std::ios::binary);
-  stream << comparable(std::move(journal), addInFolder);
-  if (!stream.flush()) {
-    throw std::runtime_error("cannot write " + file.u8string());
-  }
-}
-
-// FNV-1a, as what the standard library offers need not be the same everywhere.
-std::uint64_t digestOfJournal(std::string journal, const fs::path& addInFolder) {
-  std::uint64_t digest = 0xcbf29ce484222325U;
-  for (const char byte : comparable(std::move(journal), addInFolder)) {
-    digest = (digest ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
-  }
-  return digest;
+void keepJournal(std::string calls, const fs::path& addInFolder, const std::string& about) {
+  journalOfThisTest().add(comparable(std::move(calls), addInFolder), about);
 }
 
 }  // namespace tests

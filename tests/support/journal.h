@@ -1,8 +1,11 @@
 // Journals of the host calls of each test, for comparing systems: they are kept where the environment variable
-// TINTORA_JOURNALS names a folder.
+// TINTORA_JOURNALS names a folder, a file for each test.
+//
+// A file holds a sitting after the other, each below a heading, "=sitting 1". As sittings are much alike, a line is
+// written out where it occurs first in the file, after a "+", and is known by its number from then on: "7" stands for
+// the seventh "+", and "7-9" for three in a row.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -11,11 +14,9 @@ namespace tests {
 /// Whether journals are to be kept.
 bool keepsJournals();
 
-/// Writes the running test's next journal. The add-in's folder, which is another each time, gets a name that stays, and
-/// all separators of paths are made alike. An empty folder stands for none.
-void keepJournal(std::string journal, const std::filesystem::path& addInFolder);
-
-/// A number that stands for such a journal where there are too many to keep: any other call or answer changes it.
-std::uint64_t digestOfJournal(std::string journal, const std::filesystem::path& addInFolder);
+/// Adds a sitting to the running test's journal; `about` tells it from the test's others. The add-in's folder, which is
+/// another each time, gets a name that stays, and all separators of paths are made alike. An empty folder stands for
+/// none.
+void keepJournal(std::string calls, const std::filesystem::path& addInFolder, const std::string& about = {});
 
 }  // namespace tests
