@@ -1,7 +1,4 @@
 // From STEP files to design files.
-#include <algorithm>
-#include <cctype>
-
 #include "tests/cli/cli_fixture.h"
 #include "tests/cli/demo_steps.h"
 #include "tests/step/step_files.h"
@@ -16,13 +13,7 @@ using ::testing::HasSubstr;
 
 class ConvertedAssembly : public CliTest, public WithRow<const char*> {};
 
-TABLE(Files, ConvertedAssembly,
-      [](const auto& row) {
-        std::string name = row;
-        std::replace_if(
-            name.begin(), name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-        return name;
-      },
+TABLE(Files, ConvertedAssembly, byText,
       {"as1-oc-214.stp", "as1-tu-203.stp", "dm1-id-214.stp", "io1-cm-214.stp", "motor-driver-board-v3.5.step",
        "red_cube_blue_cylinder.step"});
 

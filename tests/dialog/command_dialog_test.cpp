@@ -43,14 +43,14 @@ const std::vector<ExpectedInput> expectedInputs = {
     {"idGroupMaterial", InputKind::Text, "idFilterMaterial", "Filter"},
     {"", InputKind::Button, "idBtnApply", "", "resources/BtnApply", false}};
 
-class DialogInput : public DialogTest, public WithRow<std::size_t> {};
+class DialogInput : public DialogTest, public WithRow<ExpectedInput> {};
 
 TABLE(
-    All, DialogInput, [](const auto& row) { return std::string(expectedInputs[row].id); }, numbersBelow(16));
+    All, DialogInput, [](const auto& row) { return std::string(row.id); }, expectedInputs);
 
 TABLE_TEST(DialogInput, IsOfItsKindInItsGroupWithItsLabel) {
   startDialog();
-  const ExpectedInput& expected = expectedInputs[row()];
+  const ExpectedInput& expected = row();
   const InputView input = session().input(expected.id);
   EXPECT_EQ(input.kind, expected.kind);
   EXPECT_EQ(input.label, expected.label);

@@ -306,11 +306,7 @@ TABLE_TEST(MissingListInput, LeavesTheListAsItIs) {
 
 class MissingListObject : public ItemLists, public WithRow<const char*> {};
 
-TABLE(Calls, MissingListObject,
-      [](const auto& row) {
-        const std::string call = row;
-        return call.substr(call.find('.') + 1);
-      },
+TABLE(Calls, MissingListObject, byText,
       {"Application.materialLibraries", "MaterialLibrary.materials", "DropDownCommandInput.selectedItem",
        "DropDownCommandInput.listItems"});
 

@@ -40,11 +40,7 @@ TABLE_TEST(WaitCursorUnderProfile, IsGoneWhenTheDialogIsThere) {
 
 class WaitCursorDuring : public WaitCursor, public WithRow<const char*> {};
 
-TABLE(Calls, WaitCursorDuring,
-      [](const auto& row) {
-        std::string name = row;
-        return name.substr(name.find('.') + 1, name.find('=') - name.find('.') - 1);
-      },
+TABLE(Calls, WaitCursorDuring, byText,
       {"CommandCreatedEventArgs.command", "Command.commandInputs", "MaterialLibraries.load",
        "Command.setDialogInitialSize", "Application.currentUser", "SelectionCommandInput.commandPrompt="});
 

@@ -215,11 +215,7 @@ TABLE_TEST(AppearanceSourceMissing, RaisesAndLeavesTheTexts) {
 
 class AppearanceSourceOfImpostor : public InspectionTest, public WithRow<const char*> {};
 
-TABLE(Classes, AppearanceSourceOfImpostor,
-      [](const auto& row) {
-        const std::string text = row;
-        return text.substr(text.rfind(':') + 1);
-      },
+TABLE(Classes, AppearanceSourceOfImpostor, byText,
       {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
        adsk::fusion::BRepFace::classType()});
 

@@ -2,7 +2,6 @@
 // button shows it, and where it stops when the host fails.
 #include "inspection/applied_appearances.h"
 
-#include <algorithm>
 #include <functional>
 
 #include "tests/inspection/inventory_fixture.h"
@@ -235,12 +234,7 @@ TEST_F(InventoryInterrupted, EmptyEntityEndsItAndWhatCameBeforeStays) {
 
 class InventoryMissing : public InspectionTest, public WithRow<const char*> {};
 
-TABLE(Calls, InventoryMissing,
-      [](const auto& row) {
-        std::string name = row;
-        name.erase(std::remove(name.begin(), name.end(), '.'), name.end());
-        return name;
-      },
+TABLE(Calls, InventoryMissing, byText,
       {"Component.allOccurrences", "OccurrenceList.item", "Occurrence.childOccurrences", "Occurrence.bRepBodies",
        "BRepBodies.item", "BRepBody.faces", "BRepFaces.item"});
 
@@ -263,11 +257,7 @@ TABLE_TEST(InventoryMissing, RaisesAndLeavesTextsAndButton) {
 
 class InventoryOfImpostor : public InventoryTest, public WithRow<const char*> {};
 
-TABLE(Classes, InventoryOfImpostor,
-      [](const auto& row) {
-        const std::string text = row;
-        return text.substr(text.rfind(':') + 1);
-      },
+TABLE(Classes, InventoryOfImpostor, byText,
       {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
        adsk::fusion::BRepFace::classType()});
 

@@ -2,8 +2,6 @@
 // "various" are the product's own.
 #include "inspection/physical_material.h"
 
-#include <algorithm>
-
 #include "tests/inspection/inspection_fixture.h"
 #include "tests/inspection/stand_ins.h"
 #include "tests/support/tables.h"
@@ -62,12 +60,7 @@ struct LibraryCase {
 
 class MaterialOfALibrary : public InspectionTest, public WithRow<LibraryCase> {};
 
-TABLE(Materials, MaterialOfALibrary,
-      [](const auto& row) {
-        std::string name = row.material;
-        name.erase(std::remove(name.begin(), name.end(), ' '), name.end());
-        return name;
-      },
+TABLE(Materials, MaterialOfALibrary, [](const auto& row) { return std::string(row.material); },
       {{"Steel 37", "Physical material: <b>Steel 37</b>;  Density: 7850 kg.m<sup>-3</sup>"},
        {"Foam", "Physical material: <b>Foam</b>;  Density: 999 kg.m<sup>-3</sup>"},
        {"Aerogel", "Physical material: <b>Aerogel</b>;  Density: 0 kg.m<sup>-3</sup>"},
@@ -318,11 +311,7 @@ TEST_F(PhysicalMaterialRoutine, NoEntityRaises) {
 
 class PhysicalMaterialOfImpostor : public LinkedInspectionTest, public WithRow<const char*> {};
 
-TABLE(Classes, PhysicalMaterialOfImpostor,
-      [](const auto& row) {
-        const std::string text = row;
-        return text.substr(text.rfind(':') + 1);
-      },
+TABLE(Classes, PhysicalMaterialOfImpostor, byText,
       {adsk::fusion::Occurrence::classType(), adsk::fusion::Component::classType(), adsk::fusion::BRepBody::classType(),
        adsk::fusion::BRepFace::classType()});
 

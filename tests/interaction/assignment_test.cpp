@@ -295,11 +295,7 @@ TABLE_TEST(MissingForMaterial, RaisesAndKeepsWhatWasAssignedBefore) {
 /// What a picked component is taken for is looked up, and may be missing.
 class MissingForComponent : public MaterialAssignment, public WithRow<const char*> {};
 
-TABLE(Calls, MissingForComponent,
-      [](const auto& row) {
-        const std::string call = row;
-        return call.substr(call.find('.') + 1);
-      },
+TABLE(Calls, MissingForComponent, byText,
       {"Application.activeProduct", "Design.rootComponent", "Component.occurrences"});
 
 TABLE_TEST(MissingForComponent, RaisesAndAssignsNothing) {

@@ -218,12 +218,7 @@ TEST_F(HostSelectionFilter, MayHaveFewerThanThreeItems) {
 
 class MissingLinkToHostFilter : public HostSelectionFilter, public WithRow<std::string> {};
 
-TABLE(Links, MissingLinkToHostFilter,
-      [](const auto& row) {
-        std::string name = row;
-        std::replace(name.begin(), name.end(), '.', '_');
-        return name;
-      },
+TABLE(Links, MissingLinkToHostFilter, byText,
       {"UserInterface.commandDefinitions", "CommandDefinitions.itemById", "CommandDefinition.controlDefinition",
        "ListControlDefinition.listItems", "ListItems.item"});
 

@@ -91,11 +91,7 @@ struct MissingLink {
 
 class UsersGuideLink : public UsersGuide, public WithRow<MissingLink> {};
 
-TABLE(Missing, UsersGuideLink,
-      [](const auto& row) {
-        std::string name = row.call;
-        return name.erase(name.find('.'), 1);
-      },
+TABLE(Missing, UsersGuideLink, [](const auto& row) { return std::string(row.call); },
       {{"CommandCreatedEventArgs.command", "commandCreated(idOpenHelp)"},
        {"Command.execute", "commandCreated(idOpenHelp)"},
        {"CommandEvent.add", ""},

@@ -1,8 +1,21 @@
 #include "tests/support/tables.h"
 
+#include <cctype>
 #include <numeric>
 
 namespace tests {
+
+namespace {
+
+/// With a line where there is a character that has a meaning in names of tests.
+std::string asPartOfAName(std::string text) {
+  for (char& c : text) {
+    c = std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+  }
+  return text;
+}
+
+}  // namespace
 
 const void*& rowOfNextTest() {
   static const void* row = nullptr;
@@ -11,7 +24,7 @@ const void*& rowOfNextTest() {
 
 bool Table::addTest(const char* name, const char* file, int line, ::testing::Test* (*make)()) const {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const std::string test = std::string(name) + "/" + names_[i];
+    const std::string test = std::string(name) + "/" + asPartOfAName(names_[i]);
     ::testing::RegisterTest(suite_.c_str(), test.c_str(), nullptr, nullptr, file, line, [make, row = rows_[i]] {
       rowOfNextTest() = row;
       return make();

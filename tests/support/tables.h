@@ -41,7 +41,7 @@ struct ByNumber {};
 inline constexpr ByNumber byNumber;
 /// Names tests after the member `name` of their rows.
 inline constexpr auto byName = [](const auto& row) { return std::string(row.name); };
-/// Names tests after their rows, which are texts.
+/// Names tests after their rows, which are texts of any kind.
 inline constexpr auto byText = [](const auto& row) { return std::string(row); };
 
 /// The rows of a table, whatever they are, with the names of the tests that they make.
