@@ -31,7 +31,7 @@ void describe(const Handle(StepData_StepModel) & entities, const std::filesystem
   header.SetDescriptionValue(1, stepText("Assembly with colours and materials"));
 }
 
-void save(const Handle(XSControl_WorkSession) & session, const std::filesystem::path& path) {
+bool save(const Handle(XSControl_WorkSession) & session, const std::filesystem::path& path) {
   StepData_StepWriter writer(Handle(StepData_StepModel)::DownCast(session->Model()));
   writer.SendModel(Handle(StepData_Protocol)::DownCast(session->Protocol()));
   std::ofstream output(path, std::ios::binary);
@@ -39,9 +39,7 @@ void save(const Handle(XSControl_WorkSession) & session, const std::filesystem::
   std::ostream text(&ascii);
   const bool isPrinted = writer.Print(text);
   output.close();
-  if (!isPrinted || !text || !output) {
-    files::failToWrite(path, "the disk refused the data", "Free some space or choose another folder.");
-  }
+  return isPrinted && text && output;
 }
 
 void writeChecked(const model::Design& design, const std::filesystem::path& file, const Progress& progress) {
@@ -52,7 +50,9 @@ void writeChecked(const model::Design& design, const std::filesystem::path& file
   writeStyles(design, products);
   Phase phase(progress, "writing");
   describe(Handle(StepData_StepModel)::DownCast(products.session()->Model()), file);
-  save(products.session(), output.path());
+  if (!save(products.session(), output.path())) {
+    files::failToWrite(file, "the disk refused the data", "Free some space or choose another folder.");
+  }
   output.commit();
   phase.finish();
 }

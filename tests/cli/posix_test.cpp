@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "tests/cli/cli_fixture.h"
+#include "tests/step/step_files.h"
 #include "tests/support/tables.h"
 
 namespace tests {
@@ -75,6 +76,36 @@ TABLE_TEST(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
   const Outcome outcome = runProgram(arguments);
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + at("calls.txt") + "\": the disk may be full.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
+}
+
+class DemoOnAFullDisk : public CliTest {
+ protected:
+  /// Nothing larger than 16 kB can be written, and so neither a trace nor an assembly.
+  Outcome play(const std::string& assembly, std::vector<std::string> outputs) {
+    outputs.insert(outputs.begin(), {"demo", assembly, "--addin", addin, "--quiet"});
+    const FileSizeLimit limit(16384);
+    return runProgram(outputs);
+  }
+
+ private:
+  const std::string addin = copyAddIn();
+};
+
+TEST_F(DemoOnAFullDisk, IsAFailureThatNamesTheTrace) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  const Outcome outcome = play(file.string(), {"--trace", at("calls.txt"), "--save", saved()});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + at("calls.txt") + "\": the disk may be full.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
+}
+
+TEST_F(DemoOnAFullDisk, IsAFailureThatNamesTheAssemblyAsItWasAskedFor) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  const Outcome outcome = play(file.string(), {"--save", saved()});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + saved() +
+                             "\": the disk refused the data. Free some space or choose another folder.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
 }
 
