@@ -7,7 +7,7 @@
 namespace headless::desktop {
 
 /// Shapes of the mouse cursor that can be told apart.
-enum class CursorShape { Arrow, Wait };
+enum class CursorShape { Arrow, Wait, Other };
 
 struct Cursor {
   CursorShape shape = CursorShape::Arrow;

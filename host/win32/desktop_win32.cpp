@@ -42,10 +42,13 @@ void waitForViewers() {
 }  // namespace
 
 Cursor cursor() {
-  const bool isWaiting = GetCursor() == LoadCursorA(nullptr, IDC_WAIT);
+  const HCURSOR shown = GetCursor();
   ShowCursor(TRUE);
   const int displayCount = ShowCursor(FALSE);
-  return {isWaiting ? CursorShape::Wait : CursorShape::Arrow, displayCount};
+  if (shown == LoadCursorA(nullptr, IDC_ARROW)) {
+    return {CursorShape::Arrow, displayCount};
+  }
+  return {shown == LoadCursorA(nullptr, IDC_WAIT) ? CursorShape::Wait : CursorShape::Other, displayCount};
 }
 
 std::vector<std::string> openedFiles() {

@@ -177,8 +177,11 @@ HINSTANCE ShellExecuteA(HWND, LPCSTR operation, LPCSTR file, LPCSTR, LPCSTR, INT
 namespace headless::desktop {
 
 Cursor cursor() {
-  const bool isWaiting = desktopState().current == cursorNamed(IDC_WAIT);
-  return {isWaiting ? CursorShape::Wait : CursorShape::Arrow, desktopState().displayCount};
+  const auto& [current, displayCount] = std::pair(desktopState().current, desktopState().displayCount);
+  if (current == cursorNamed(IDC_ARROW)) {
+    return {CursorShape::Arrow, displayCount};
+  }
+  return {current == cursorNamed(IDC_WAIT) ? CursorShape::Wait : CursorShape::Other, displayCount};
 }
 
 std::vector<std::string> openedFiles() {

@@ -3,6 +3,7 @@
 #include "host/win32/desktop.h"
 #include "tests/support/addin_fixture.h"
 #include "tests/support/tables.h"
+#include "tests/support/windows_calls.h"
 
 namespace tests {
 namespace {
@@ -60,6 +61,13 @@ TEST_F(WaitCursor, GivesWayToTheCursorThatWasThereBefore) {
   session().pressCancel();
   openDialog();
   expectCursor(CursorShape::Wait, 1);
+}
+
+TEST_F(WaitCursor, LeavesNoneWhereThereWasNone) {
+  start();
+  SetCursor(nullptr);
+  openDialog();
+  expectCursor(CursorShape::Other, 0);
 }
 
 TEST_F(WaitCursor, PilesUpWhenTheBuildFailsAgain) {

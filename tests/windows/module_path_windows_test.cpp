@@ -80,6 +80,7 @@ struct Letter {
 
 class WindowsMissingLetter : public WindowsModulePath, public WithRow<Letter> {};
 
+// An L with a stroke would otherwise become a plain one, and a slash of mathematics one of paths.
 TABLE(Letters, WindowsMissingLetter, byName,
       {{"Zhe", "\xD0\x96"}, {"LWithStroke", "\xC5\x81"}, {"DivisionSlash", "\xE2\x88\x95"}});
 
@@ -104,8 +105,6 @@ TABLE_TEST(WindowsMissingLetter, IsABlankWhichMayLeadToAnotherFolder) {
   EXPECT_TRUE(folder.has(other / settingsFile()));
   EXPECT_FALSE(hasSettings());
 }
-
-// An L with a stroke would otherwise become a plain one, and a slash of mathematics one of paths.
 
 class WindowsLibraryName : public WindowsModulePath {
  protected:
@@ -135,7 +134,10 @@ TEST_F(WindowsLibraryName, IsPassedOverByAHostThatTakesPathsForUtf8) {
 
 TEST_F(WindowsModulePath, LibrariesWithOtherNamesAreNotFound) {
   folder.write(appearancesFolder / std::filesystem::u8path("\xD0\x96.adsklib"), appearanceLibrary("Beetle", {"Black"}));
-  startDialog(lenientHost());
+  start(lenientHost());
+  host().gate().startTrace();
+  openDialog();
+  EXPECT_THAT(callsWith(host().gate(), {" .adsklib"}).size(), 1U);
   EXPECT_THAT(itemsOf("idLibAssets"), ElementsAre("RAL_COLORS"));
 }
 
