@@ -99,6 +99,27 @@ void removePanelAndButtons(const Ptr<core::Workspace>& workspace, const char* pa
   removeButton(panel, helpId);
 }
 
+struct Buttons {
+  Ptr<core::CommandDefinition> mainOnSolid;
+  Ptr<core::CommandDefinition> mainOnTools;
+  Ptr<core::CommandDefinition> helpOnSolid;
+  Ptr<core::CommandDefinition> helpOnTools;
+};
+
+/// One after the other, up to the first that the host refuses.
+bool addButtons(Buttons& buttons) {
+  const Ptr<core::CommandDefinitions> definitions = uiHandle->commandDefinitions();
+  const auto add = [&definitions](Ptr<core::CommandDefinition>& button, const char* id, const wchar_t* name,
+                                  const wchar_t* tooltip, const char* icons) {
+    button = definitions->addButtonDefinition(id, toUtf8(name), toUtf8(tooltip), icons);
+    return static_cast<bool>(button);
+  };
+  return add(buttons.mainOnSolid, mainCommandId, commandName, commandTooltip, commandIcons) &&
+         add(buttons.mainOnTools, mainCommandOnToolsId, commandName, commandTooltip, commandIcons) &&
+         add(buttons.helpOnSolid, helpCommandId, helpName, helpTooltip, helpIcons) &&
+         add(buttons.helpOnTools, helpCommandOnToolsId, helpName, helpTooltip, helpIcons);
+}
+
 }  // namespace
 
 bool setupUserInterface() {
@@ -117,33 +138,12 @@ bool setupUserInterface() {
   const Ptr<core::ToolbarPanel> solidPanel = findOrAddPanel(solidTab, solidPanelId);
   const Ptr<core::ToolbarPanel> toolsPanel = findOrAddPanel(toolsTab, toolsPanelId);
 
-  const Ptr<core::CommandDefinitions> definitions = uiHandle->commandDefinitions();
-  const auto addButton = [&definitions](const char* id, const wchar_t* name, const wchar_t* tooltip,
-                                        const char* icons) {
-    return definitions->addButtonDefinition(id, toUtf8(name), toUtf8(tooltip), icons);
-  };
-  const Ptr<core::CommandDefinition> mainOnSolid = addButton(mainCommandId, commandName, commandTooltip, commandIcons);
-  if (!mainOnSolid) {
-    return false;
-  }
-  const Ptr<core::CommandDefinition> mainOnTools =
-      addButton(mainCommandOnToolsId, commandName, commandTooltip, commandIcons);
-  if (!mainOnTools) {
-    return false;
-  }
-  const Ptr<core::CommandDefinition> helpOnSolid = addButton(helpCommandId, helpName, helpTooltip, helpIcons);
-  if (!helpOnSolid) {
-    return false;
-  }
-  const Ptr<core::CommandDefinition> helpOnTools = addButton(helpCommandOnToolsId, helpName, helpTooltip, helpIcons);
-  if (!helpOnTools) {
-    return false;
-  }
-
-  return addPromotedControl(solidPanel, mainOnSolid) && addPromotedControl(toolsPanel, mainOnTools) &&
-         addPromotedControl(solidPanel, helpOnSolid) && addPromotedControl(toolsPanel, helpOnTools) &&
-         attachToCreated(mainOnSolid, mainOnTools, cmdCreatedHandler) &&
-         attachToCreated(helpOnSolid, helpOnTools, cmdHelpCreatedHandler) && attachToTerminated();
+  Buttons buttons;
+  return addButtons(buttons) && addPromotedControl(solidPanel, buttons.mainOnSolid) &&
+         addPromotedControl(toolsPanel, buttons.mainOnTools) && addPromotedControl(solidPanel, buttons.helpOnSolid) &&
+         addPromotedControl(toolsPanel, buttons.helpOnTools) &&
+         attachToCreated(buttons.mainOnSolid, buttons.mainOnTools, cmdCreatedHandler) &&
+         attachToCreated(buttons.helpOnSolid, buttons.helpOnTools, cmdHelpCreatedHandler) && attachToTerminated();
 }
 
 bool removeUserInterface() {

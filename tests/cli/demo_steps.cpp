@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
 namespace tests {
@@ -45,7 +46,7 @@ void expectEveryStep(const std::string& shown) {
   for (const char* text : shownInOrder) {
     const std::size_t found = shown.find(text, position);
     ASSERT_NE(found, std::string::npos) << "\"" << text << "\" is not shown after:\n" << shown.substr(0, position);
-    position = found;
+    position = found + std::strlen(text);
   }
 }
 

@@ -56,7 +56,8 @@ TABLE(Patterns, Glob, tests::byNumber,
        {"[a]*[b]", "axxb", true}});
 
 TABLE_TEST(Glob, MatchesTheWholeText) {
-  EXPECT_EQ(matchesGlob(row().pattern, row().text), row().isMatch);
+  EXPECT_EQ(matchesGlob(row().pattern, row().text), row().isMatch)
+      << "\"" << row().pattern << "\" for \"" << row().text << "\"";
 }
 
 TEST(GlobTime, ManyStarsTakeNoLongTime) {

@@ -321,7 +321,8 @@ TABLE_TEST(MissingListObject, RaisesAndLeavesTheListAsItIs) {
 
 class ListRoutines : public ItemLists, public WithRow<ListInputs> {};
 
-TABLE(Inputs, ListRoutines, byNumber,
+TABLE(Inputs, ListRoutines,
+      [](const auto& row) { return row.library + std::string("_") + row.filter + "_" + row.list; },
       {{"idFilterSelect", "idFilterMaterial", "idMaterialList"},
        {"idLibMaterials", "idLibMaterials", "idMaterialList"},
        {"idLibMaterials", "idFilterMaterial", "idFilterMaterial"},

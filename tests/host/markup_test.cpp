@@ -32,7 +32,7 @@ TABLE(Texts, Markup, byNumber,
        {"gr\xC3\xBCn", "gr\xC3\xBCn"}});
 
 TABLE_TEST(Markup, IsShownAs) {
-  EXPECT_EQ(headless::withoutMarkup(row().formatted), row().shown);
+  EXPECT_EQ(headless::withoutMarkup(row().formatted), row().shown) << row().formatted;
 }
 
 using headless::textRuns;

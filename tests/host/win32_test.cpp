@@ -69,7 +69,7 @@ TABLE(OfNarrowText, InvalidBytes, byNumber,
        {"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"}});
 
 TABLE_TEST(InvalidBytes, BecomeReplacementCharacters) {
-  EXPECT_EQ(toWide(row().narrow), row().wide);
+  EXPECT_EQ(toWide(row().narrow), row().wide) << testing::PrintToString(row().narrow);
 }
 
 TEST(Conversions, TellTheSizeThatIsNeeded) {

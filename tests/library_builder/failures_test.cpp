@@ -110,7 +110,7 @@ struct EarlyFailure {
 
 class BeforeTheFirstColour : public LibraryBuilderFailures, public WithRow<EarlyFailure> {};
 
-TABLE(Calls, BeforeTheFirstColour, byNumber,
+TABLE(Calls, BeforeTheFirstColour, [](const auto& row) { return row.call; },
       {{"Application.materialLibraries", "material libraries"},
        {"UserInterface.createProgressDialog", "progress dialog"},
        {"ProgressDialog.show", "progress dialog", true},
@@ -137,7 +137,7 @@ struct ColourFailure {
 
 class InTheMiddle : public LibraryBuilderFailures, public WithRow<ColourFailure> {};
 
-TABLE(Calls, InTheMiddle, byNumber,
+TABLE(Calls, InTheMiddle, [](const auto& row) { return row.call; },
       {{"Appearances.addByCopy", "could not be copied"},
        {"Appearance.name", "another name"},
        {"Appearance.appearanceProperties", "no colour property"},

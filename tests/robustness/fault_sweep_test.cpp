@@ -145,6 +145,7 @@ void PrintTo(const SweepCase& value, std::ostream* stream) {
           << value.profile;
 }
 
+// A lenient host does less than a documented one; the sample of all calls has it as well.
 std::vector<SweepCase> sweepCases() {
   std::vector<SweepCase> cases;
   for (const char* profile : {"documented", "hostile"}) {

@@ -139,7 +139,7 @@ TEST_F(CommandRestart, DoesNotConcernTheHelpCommand) {
 
 class ForeignCommand : public CommandRestart, public WithRow<const char*> {};
 
-TABLE(Ids, ForeignCommand, byNumber,
+TABLE(Ids, ForeignCommand, byText,
       {"FitCommand", "idAssetsMatMn", "idAssetsMatMng2", "IDASSETSMATMNG", "xidAssetsMatMng"});
 
 TABLE_TEST(ForeignCommand, IsNotRestarted) {

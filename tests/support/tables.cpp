@@ -2,6 +2,8 @@
 
 #include <cctype>
 #include <numeric>
+#include <set>
+#include <stdexcept>
 
 namespace tests {
 
@@ -23,8 +25,18 @@ const void*& rowOfNextTest() {
 }
 
 bool Table::addTest(const char* name, const char* file, int line, ::testing::Test* (*make)()) const {
+  std::vector<std::string> names;
+  for (const std::string& rowName : names_) {
+    names.push_back(asPartOfAName(rowName));
+  }
+  if (names.empty()) {
+    throw std::logic_error("the table of " + suite_ + " has no rows");
+  }
+  if (std::set<std::string>(names.begin(), names.end()).size() < names.size()) {
+    throw std::logic_error("two rows of the table of " + suite_ + " have the same name");
+  }
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const std::string test = std::string(name) + "/" + asPartOfAName(names_[i]);
+    const std::string test = std::string(name) + "/" + names[i];
     ::testing::RegisterTest(suite_.c_str(), test.c_str(), nullptr, nullptr, file, line, [make, row = rows_[i]] {
       rowOfNextTest() = row;
       return make();

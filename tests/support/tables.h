@@ -60,6 +60,7 @@ class Table {
       : Table(std::move(suite), rows, [&](const Row& row) { return std::to_string(&row - rows.data()); }) {}
 
   /// Makes a test for each row known to googletest. Gives true, so that it can be called where variables are defined.
+  /// Raises std::logic_error where there are no rows, or two of one name: there would be fewer tests than meant.
   bool addTest(const char* name, const char* file, int line, ::testing::Test* (*make)()) const;
 
  private:
@@ -94,7 +95,7 @@ std::vector<std::pair<First, Second>> everyPair(const std::vector<First>& firsts
   }                                                                                     \
   static_assert(true)
 
-/// A test that runs for each row of its fixture's table.
+/// A test that runs for each row of its fixture's table. SetUpTestSuite of the fixture is not called.
 #define TABLE_TEST(Fixture, Name)                                                                   \
   class Fixture##_##Name##_Test : public Fixture {                                                  \
     void TestBody() override;                                                                       \

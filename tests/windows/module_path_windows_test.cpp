@@ -39,7 +39,7 @@ headless::Profile lenientHost() {
 
 class WindowsShownFolder : public WindowsModulePath, public WithRow<const char*> {};
 
-TABLE(Names, WindowsShownFolder, byNumber,
+TABLE(Names, WindowsShownFolder, byText,
       {"my add ins",
        "Gr\xC3\xB6\xC3\x9F"
        "e \xE2\x82\xAC",
