@@ -81,6 +81,13 @@ void CallGate::note(const std::string& text) {
   journal.add(depth, "# " + text);
 }
 
+void CallGate::startJournal() {
+  if (!addressesInJournal) {
+    addressesInJournal.emplace();
+  }
+  journal.start();
+}
+
 void CallGate::setFault(const Fault& newFault) {
   fault = newFault;
   callsBeforeFault = 0;

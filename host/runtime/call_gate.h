@@ -13,6 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "host/runtime/rising_addresses.h"
+
 namespace headless {
 
 /// The host's side of an API object: how lines of a trace name it.
@@ -96,8 +98,9 @@ class CallGate {
   /// What was recorded, one call a line, indented by depth.
   std::string traceText() const { return trace.text(); }
 
-  /// A second trace, of everything from here on, however often the first one is started and stopped.
-  void startJournal() { journal.start(); }
+  /// A second trace, of everything from here on, however often the first one is started and stopped. It is the same on
+  /// every system: objects are made at rising addresses from here on, so there should be none of a design yet.
+  void startJournal();
   std::string journalText() const { return journal.text(); }
 
   /// Sets the fault, which replaces the one before.
@@ -196,6 +199,7 @@ class CallGate {
   int depth = 0;
   Recording trace;
   Recording journal;
+  std::optional<RisingAddresses> addressesInJournal;
   std::optional<Fault> fault;
   std::size_t callsBeforeFault = 0;
   bool struck = false;

@@ -4,11 +4,13 @@
 
 #include <Core/CoreAll.h>
 
+#include <cstddef>
 #include <string>
 #include <type_traits>
 #include <utility>
 
 #include "host/runtime/call_gate.h"
+#include "host/runtime/rising_addresses.h"
 
 namespace headless {
 
@@ -20,6 +22,9 @@ class HostObject : public Interface, public Traceable {
   HostObject() = default;
   HostObject(const HostObject&) = delete;
   HostObject& operator=(const HostObject&) = delete;
+
+  static void* operator new(std::size_t size) { return RisingAddresses::take(size); }
+  static void operator delete(void* memory) { RisingAddresses::giveBack(memory); }
 
   void addref() const final { ++references; }
   void release() const final {

@@ -1,6 +1,9 @@
 // Identity of handles, what setters take and refuse, steps of the history, and the end of an open design.
 #include "host/entities/entity_store.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "tests/entities/design_fixture.h"
 
 namespace headless {
@@ -62,6 +65,19 @@ TEST_F(EntityStoreTest, EveryCallMayGiveANewHandle) {
   }
   headOf("Sub:1+Bolt:1")->appearance(green);
   EXPECT_EQ(headOf("Sub:1+Bolt:1")->appearance()->name(), green->name());
+}
+
+TEST_F(EntityStoreTest, NewHandlesHaveRisingAddressesWhileAJournalIsKept) {
+  gate.startJournal();
+  profile.freshWrappers = true;
+  open();
+  std::vector<const void*> addresses;
+  for (int i = 0; i < 100; ++i) {
+    addresses.push_back(headOf("Bolt:3").get());
+    addresses.push_back(headOf("Bolt:3")->faces()->item(0).get());
+    gate.startJournal();
+  }
+  EXPECT_EQ(std::adjacent_find(addresses.begin(), addresses.end(), std::greater_equal<>()), addresses.end());
 }
 
 TEST_F(EntityStoreTest, ALibraryAppearanceIsTakenAsItIs) {
