@@ -27,10 +27,21 @@ void replaceAll(std::string& text, const std::string& part, const std::string& r
 }
 
 std::string comparable(std::string calls, const fs::path& addInFolder) {
-  replaceAll(calls, "\\", "/");
-  if (!addInFolder.empty()) {
-    replaceAll(calls, addInFolder.generic_u8string(), "<add-in>");
+  if (addInFolder.empty()) {
+    return calls;
   }
+  const std::string folder = addInFolder.generic_u8string();
+  std::string slashed = calls;
+  std::replace(slashed.begin(), slashed.end(), '\\', '/');
+  // Paths of icons begin below the folder. A path ends with its text.
+  for (const std::string& start : {folder, std::string("\"resources/")}) {
+    std::size_t end = 0;
+    for (std::size_t at = slashed.find(start); at != std::string::npos; at = slashed.find(start, end)) {
+      end = std::min(slashed.find_first_of("\"\n", at + start.size()), slashed.size());
+      calls.replace(at, end - at, slashed, at, end - at);
+    }
+  }
+  replaceAll(calls, folder, "<add-in>");
   return calls;
 }
 

@@ -15,8 +15,8 @@ namespace tests {
 bool keepsJournals();
 
 /// Adds a sitting to the running test's journal; `about` tells it from the test's others. The add-in's folder, which is
-/// another each time, gets a name that stays, and all separators of paths are made alike. An empty folder stands for
-/// none.
+/// another each time, gets a name that stays, and the separators of paths below it, "resources/..." too, are made
+/// alike. An empty folder stands for none.
 void keepJournal(std::string calls, const std::filesystem::path& addInFolder, const std::string& about = {});
 
 }  // namespace tests
