@@ -55,7 +55,7 @@ Sitting::Sitting(const SittingOptions& sittingOptions)
   }
   session_ = std::make_unique<Session>(profileNamed(options.profile));
   if (traceOutput) {
-    session_->host().gate().startTrace();
+    session_->host().gate().startJournal();
   }
   loadMaterialLibraries();
 }
@@ -145,7 +145,7 @@ void Sitting::finish() {
     return;
   }
   std::ofstream stream(traceOutput->path(), std::ios::binary);
-  stream << session_->host().gate().traceText();
+  stream << session_->host().gate().journalText();
   stream.close();
   if (!stream) {
     throw files::Error("Cannot write \"" + options.traceFile.u8string() + "\": the disk may be full.");

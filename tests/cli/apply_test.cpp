@@ -116,8 +116,8 @@ TABLE_TEST(AnsweredQuestion, DecidesAboutTheFaces) {
 }
 
 TEST_F(CliTest, AQuestionThatNobodyAnswersIsAFailureAndNothingIsSaved) {
-  const Outcome outcome = runProgram(
-      applying({"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red", "--quiet"}));
+  const Outcome outcome =
+      run(applying({"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red", "--quiet"}));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, AllOf(HasSubstr("\"Remove appearances applied to bodies & faces?\""),
                                  HasSubstr("--answer yes or --answer no"), HasSubstr("Nothing was saved")));
@@ -170,7 +170,7 @@ TABLE_TEST(MissingThing, IsAFailureThatNamesTheFileAndWhatIsNear) {
 
 TEST_F(CliTest, AFolderThatIsNotThereIsAFailureThatNamesIt) {
   const std::string target = at(assemblyName("no/such/folder/out"));
-  const Outcome outcome = runProgram(
+  const Outcome outcome = run(
       {"apply", rig(), "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save", target});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, AllOf(HasSubstr(target), HasSubstr("folder")));
@@ -190,8 +190,8 @@ TEST_F(CliTest, TheLastQuestionIsDrawn) {
 }
 
 TEST_F(CliTest, WithoutQuestionThereIsNoneToDraw) {
-  const Outcome outcome = runProgram(applying({"--filter", "body", "--select", "Base", "--appearance",
-                                               "RAL 3000 Flame red", "--question-picture", at("question.svg")}));
+  const Outcome outcome = run(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red",
+                                        "--question-picture", at("question.svg")}));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr("The add-in asked nothing"));
   EXPECT_FALSE(exists("question.svg"));

@@ -2,7 +2,7 @@
 
 #include "host/cli/design_files.h"
 #include "host/cli/geometry.h"
-#include "tests/cli/rig_bodies.h"
+#include "tests/cli/assemblies.h"
 
 namespace tests {
 

@@ -10,20 +10,22 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-TEST_F(CliTest, HelpIsTheManual) {
+class CommandLine : public CliTest {};
+
+TEST_F(CommandLine, HelpIsTheManual) {
   const std::string help = succeed({"--help"});
   for (const char* text : {"tree", "dialog", "apply", "clear", "demo", "convert", "Examples:", "Exit codes:"}) {
     EXPECT_THAT(help, HasSubstr(text));
   }
 }
 
-TEST_F(CliTest, HelpOfACommandExplainsPathsAndPatterns) {
+TEST_F(CommandLine, HelpOfACommandExplainsPathsAndPatterns) {
   EXPECT_THAT(succeed({"apply", "--help"}),
               AllOf(HasSubstr("--appearance-library NAME"), HasSubstr("\"A:1+B:2/Body1/Face3\""),
                     HasSubstr("--set-appearance-by-material"), HasSubstr("(required)")));
 }
 
-TEST_F(CliTest, VersionIsThatOfTheProject) {
+TEST_F(CommandLine, VersionIsThatOfTheProject) {
   EXPECT_EQ(succeed({"--version"}), "tintora-host " TINTORA_VERSION "\n");
 }
 
@@ -101,24 +103,24 @@ TABLE_TEST(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
 }
 
-TEST_F(CliTest, AFileThatIsNotThereIsAFailureThatNamesIt) {
+TEST_F(CommandLine, AFileThatIsNotThereIsAFailureThatNamesIt) {
   const std::string file = at(assemblyName("nix"));
   EXPECT_THAT(fail(1, {"tree", file}),
               AllOf(HasSubstr(file), AnyOf(HasSubstr("there is no such file"), HasSubstr("does not exist"))));
 }
 
-TEST_F(CliTest, AFolderWithoutAddInIsAFailureThatSaysHowToNameOne) {
+TEST_F(CommandLine, AFolderWithoutAddInIsAFailureThatSaysHowToNameOne) {
   EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", at("nowhere")}),
               AllOf(HasSubstr("nowhere"), HasSubstr("no file Tintora.dll"), HasSubstr("--addin")));
 }
 
-TEST_F(CliTest, WithoutATerminalProgressIsOneLineForEachFile) {
-  const Outcome outcome = runProgram({"clear", rig(), "--filter", "body", "--select", "*", "--save", saved()});
+TEST_F(CommandLine, WithoutATerminalProgressIsOneLineForEachFile) {
+  const Outcome outcome = run({"clear", rig(), "--filter", "body", "--select", "*", "--save", saved()});
   EXPECT_EQ(outcome.err, "Reading " + rig() + "\nWriting " + saved() + "\n");
 }
 
-TEST_F(CliTest, QuietMeansNoProgress) {
-  EXPECT_EQ(runProgram({"tree", rig(), "--quiet"}).err, "");
+TEST_F(CommandLine, QuietMeansNoProgress) {
+  EXPECT_EQ(run({"tree", rig(), "--quiet"}).err, "");
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "host/cli/picture.h"
 
-#include "tests/cli/cli_fixture.h"
+#include "tests/cli/native_fixture.h"
 
 namespace tests {
 namespace {
@@ -54,7 +54,7 @@ TEST(Picture, OfNothingIsWhite) {
   EXPECT_EQ(picture.pixels, std::vector<std::uint8_t>(8 * 8 * 3, 255));
 }
 
-TEST_F(CliTest, RenderWritesAPngOfTheWantedSize) {
+TEST_F(NativeCliTest, RenderWritesAPngOfTheWantedSize) {
   succeed({"render", rig(), "--png", at("rig.png"), "--width", "320", "--height", "200"});
   const std::string png = content("rig.png");
   EXPECT_THAT(png, StartsWith("\x89PNG\r\n\x1a\n"));

@@ -3,7 +3,7 @@
 
 #include <csignal>
 
-#include "tests/cli/cli_fixture.h"
+#include "tests/cli/native_fixture.h"
 #include "tests/step/step_files.h"
 #include "tests/support/tables.h"
 
@@ -15,7 +15,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-TEST_F(CliTest, InATerminalTheQuestionIsPutToTheUser) {
+TEST_F(NativeCliTest, InATerminalTheQuestionIsPutToTheUser) {
   const Outcome outcome = runInTerminal(
       applying({"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red"}), "what?\nyes\n");
   EXPECT_EQ(outcome.exitCode, 0);
@@ -24,12 +24,12 @@ TEST_F(CliTest, InATerminalTheQuestionIsPutToTheUser) {
   EXPECT_TRUE(exists(assemblyName("out")));
 }
 
-TEST_F(CliTest, TreeInATerminalHasBlocksInTheColoursOfTheObjects) {
+TEST_F(NativeCliTest, TreeInATerminalHasBlocksInTheColoursOfTheObjects) {
   EXPECT_THAT(runInTerminal({"tree", rig()}, "").out, HasSubstr("\x1b[48;2;255;0;0m"));
   EXPECT_THAT(runInTerminal({"tree", rig(), "--colour", "never"}, "").out, Not(HasSubstr("\x1b[48")));
 }
 
-TEST_F(CliTest, TheInputIsRecognisedUnderAnotherName) {
+TEST_F(NativeCliTest, TheInputIsRecognisedUnderAnotherName) {
   std::filesystem::create_symlink(rig(), at(assemblyName("alias")));
   const std::string before = content(assemblyName("rig"));
   fail(2, {"clear", rig(), "--filter", "body", "--select", "*", "--save", at(assemblyName("alias"))});
@@ -57,7 +57,7 @@ class FileSizeLimit {
   void (*atLimit)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
-class TraceOnAFullDisk : public CliTest, public WithRow<std::vector<std::string>> {};
+class TraceOnAFullDisk : public NativeCliTest, public WithRow<std::vector<std::string>> {};
 
 TABLE(Commands, TraceOnAFullDisk, [](const auto& row) { return row.front(); },
       {{"dialog"},
@@ -73,19 +73,19 @@ TABLE_TEST(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
     arguments.insert(arguments.end(), {"--save", saved()});
   }
   const FileSizeLimit limit(16384);
-  const Outcome outcome = runProgram(arguments);
+  const Outcome outcome = run(arguments);
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + at("calls.txt") + "\": the disk may be full.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
 }
 
-class DemoOnAFullDisk : public CliTest {
+class DemoOnAFullDisk : public NativeCliTest {
  protected:
   /// Nothing larger than 16 kB can be written, and so neither a trace nor an assembly.
   Outcome play(const std::string& assembly, std::vector<std::string> outputs) {
     outputs.insert(outputs.begin(), {"demo", assembly, "--addin", addin, "--quiet"});
     const FileSizeLimit limit(16384);
-    return runProgram(outputs);
+    return run(outputs);
   }
 
  private:

@@ -1,4 +1,5 @@
-// What the tests of the command line share: a folder of their own, and ways to run the program.
+// What the tests of the command line share: a folder of their own, and ways to run the program. Where journals of host
+// calls are kept (tests/support/journal.h), the calls of each run are a sitting.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "tests/cli/program.h"
+#include "tests/support/journal.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tests {
@@ -27,6 +29,9 @@ class ProgramTest : public ::testing::Test {
   /// Names of everything in the test's folder, sorted.
   std::vector<std::string> filesInFolder() const;
 
+  /// Runs the program. A command that runs the add-in does so under the usual profile (tests/support/usual_profile.h)
+  /// unless one is named.
+  Outcome run(std::vector<std::string> arguments) const;
   /// Runs a command that must succeed; gives its standard output.
   std::string succeed(const std::vector<std::string>& arguments) const;
   /// Runs a command that must fail with that exit code and write nothing to its standard output; gives the message.
@@ -35,11 +40,16 @@ class ProgramTest : public ::testing::Test {
   /// The tree of a file as JSON text.
   std::string json(const std::string& file) const { return succeed({"tree", file, "--json", "--all"}); }
 
+  /// For tests that only one system has, so that there is nothing to compare their host calls with.
+  void keepNoJournal() { isJournalKept = false; }
+
  private:
+  Outcome runForJournal(std::vector<std::string> arguments) const;
   std::filesystem::path pathOf(const std::string& name) const { return folder.path() / std::filesystem::u8path(name); }
 
   Program program;
   TemporaryFolder folder;
+  bool isJournalKept = keepsJournals();
 };
 
 }  // namespace tests

@@ -12,7 +12,9 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-TEST_F(CliTest, TheTraceHasTheUsersActionsTheEventsAndTheCalls) {
+class RecordedRun : public CliTest {};
+
+TEST_F(RecordedRun, TheTraceHasTheUsersActionsTheEventsAndTheCalls) {
   succeed(applying(
       {"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--trace", at("calls.txt")}));
   EXPECT_THAT(content("calls.txt"), AllOf(HasSubstr("# the user chooses \"RAL 3000 Flame red\" in idAppearanceList\n"),
@@ -20,19 +22,19 @@ TEST_F(CliTest, TheTraceHasTheUsersActionsTheEventsAndTheCalls) {
                                           ContainsRegex("BRepBody.*\\.appearance=.* -> true")));
 }
 
-TEST_F(CliTest, TheTraceIsWrittenAlsoWhenTheRunFails) {
+TEST_F(RecordedRun, TheTraceIsWrittenAlsoWhenTheRunFails) {
   fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "nix", "--trace", at("calls.txt")}));
   EXPECT_THAT(content("calls.txt"), HasSubstr("# the user presses idAssetsMatMng\n"));
 }
 
-TEST_F(CliTest, ATraceThatCannotBeWrittenIsAFailureBeforeAnythingIsDone) {
+TEST_F(RecordedRun, ATraceThatCannotBeWrittenIsAFailureBeforeAnythingIsDone) {
   fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--trace",
                     at("no/such/folder/calls.txt")}));
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
 }
 
-TEST_F(CliTest, CallsAreCountedByName) {
-  const std::string counts = runProgram({"dialog", rig(), "--count-calls"}).err;
+TEST_F(RecordedRun, CallsAreCountedByName) {
+  const std::string counts = run({"dialog", rig(), "--count-calls"}).err;
   EXPECT_TRUE(std::regex_search(counts, std::regex("\n[0-9]+ calls of the host\n"))) << counts;
   EXPECT_THAT(counts, HasSubstr(" 3  CommandInputs.addGroupCommandInput\n"));
 }

@@ -1,7 +1,7 @@
 // What takes the geometry kernel: STEP files in and out, files for viewers, pictures of assemblies.
 #include <nlohmann/json.hpp>
 
-#include "tests/cli/cli_fixture.h"
+#include "tests/cli/native_fixture.h"
 #include "tests/step/step_files.h"
 
 namespace tests {
@@ -12,15 +12,15 @@ using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-TEST_F(CliTest, SavedAlsoForViewers) {
+TEST_F(NativeCliTest, SavedAlsoForViewers) {
   succeed(applying({"--filter", "body", "--select", "*", "--appearance", "RAL 3000 Flame red", "--answer", "no",
                     "--glb", at("out.glb")}));
   EXPECT_THAT(content("out.glb"), StartsWith("glTF"));
 }
 
-TEST_F(CliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
+TEST_F(NativeCliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
   std::filesystem::create_directory(at("out.glb"));
-  const Outcome outcome = runProgram(
+  const Outcome outcome = run(
       applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", at("out.glb")}));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.err, HasSubstr(at("out.glb")));
@@ -29,14 +29,14 @@ TEST_F(CliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
   EXPECT_THAT(filesInFolder(), ElementsAre("out.glb", "out.step", "rig.step"));
 }
 
-TEST_F(CliTest, AFileThatIsInTheWayIsReplacedAsAWhole) {
+TEST_F(NativeCliTest, AFileThatIsInTheWayIsReplacedAsAWhole) {
   fill("out.step", "something else");
   succeed(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red"}));
   EXPECT_THAT(content("out.step"), StartsWith("ISO-10303-21;"));
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("out"), assemblyName("rig")));
 }
 
-TEST_F(CliTest, ARealAssemblyIsPaintedAndReadBack) {
+TEST_F(NativeCliTest, ARealAssemblyIsPaintedAndReadBack) {
   WITH_STEP_FILE(file, "as1-tu-203.stp");
   succeed({"apply", file.string(), "--filter", "body", "--select", "*+l-bracket:*/*", "--appearance",
            "RAL 3000 Flame red", "--save", at("red.step")});
@@ -53,7 +53,7 @@ TEST_F(CliTest, ARealAssemblyIsPaintedAndReadBack) {
   EXPECT_EQ(after["occurrences"][0], before["occurrences"][0]);
 }
 
-TEST_F(CliTest, TreeOfARealAssembly) {
+TEST_F(NativeCliTest, TreeOfARealAssembly) {
   WITH_STEP_FILE(file, "as1-tu-203.stp");
   const std::string tree = succeed({"tree", file.string()});
   EXPECT_THAT(tree, HasSubstr("l-bracket-assembly:1-2 ×2"));
@@ -61,20 +61,20 @@ TEST_F(CliTest, TreeOfARealAssembly) {
   EXPECT_THAT(tree, EndsWith("9 components, 27 occurrences, 18 bodies, 160 faces\n"));
 }
 
-TEST_F(CliTest, RenderIsACommandToo) {
+TEST_F(NativeCliTest, RenderIsACommandToo) {
   EXPECT_THAT(succeed({"--help"}), HasSubstr("render "));
   EXPECT_THAT(fail(2, {"quux"}), HasSubstr("there are tree, dialog, render, apply, clear, demo, convert"));
 }
 
-TEST_F(CliTest, RenderDoesNotDrawOntoItsInput) {
+TEST_F(NativeCliTest, RenderDoesNotDrawOntoItsInput) {
   EXPECT_THAT(fail(2, {"render", rig(), "--png", rig()}), HasSubstr("is the file that is read"));
 }
 
-TEST_F(CliTest, RenderRefusesTinyPictures) {
+TEST_F(NativeCliTest, RenderRefusesTinyPictures) {
   EXPECT_THAT(fail(2, {"render", rig(), "--png", at("out.png"), "--width", "3"}), HasSubstr("--width"));
 }
 
-TEST_F(CliTest, EndingsSayWhatIsSaved) {
+TEST_F(NativeCliTest, EndingsSayWhatIsSaved) {
   const std::vector<std::string> clearing = {"clear", rig(), "--filter", "body", "--select", "*", "--save"};
   const auto clearingInto = [&](const std::vector<std::string>& outputs) {
     std::vector<std::string> arguments = clearing;
@@ -87,7 +87,7 @@ TEST_F(CliTest, EndingsSayWhatIsSaved) {
   EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
 }
 
-TEST_F(CliTest, AFileForViewersIsNoneOfTheOthers) {
+TEST_F(NativeCliTest, AFileForViewersIsNoneOfTheOthers) {
   EXPECT_THAT(fail(2, {"clear", rig(), "--filter", "body", "--select", "*", "--save", saved(), "--glb", at("out.glb"),
                        "--trace", at("out.glb")}),
               HasSubstr("is the file of both --glb and --trace"));

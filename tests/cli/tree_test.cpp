@@ -9,7 +9,9 @@ using ::testing::ContainsRegex;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-TEST_F(CliTest, TreeShowsStructureLooksSourcesAndMaterials) {
+class TreeCommand : public CliTest {};
+
+TEST_F(TreeCommand, TreeShowsStructureLooksSourcesAndMaterials) {
   EXPECT_EQ(succeed({"tree", rig()}),
             "Object                  Shows                     From      Material\n"
             "Rig                                                         Steel, 7850 kg/m3\n"
@@ -23,7 +25,7 @@ TEST_F(CliTest, TreeShowsStructureLooksSourcesAndMaterials) {
             "3 components, 4 occurrences, 5 bodies, 30 faces\n");
 }
 
-TEST_F(CliTest, SiblingsThatLookDifferentHaveRowsOfTheirOwn) {
+TEST_F(TreeCommand, SiblingsThatLookDifferentHaveRowsOfTheirOwn) {
   succeed(applying(
       {"--filter", "component", "--select", "Arm:2+Pin:1", "--appearance", "RAL 3000 Flame red", "--answer", "no"}));
   const std::string tree = succeed({"tree", saved()});
@@ -33,7 +35,7 @@ TEST_F(CliTest, SiblingsThatLookDifferentHaveRowsOfTheirOwn) {
   EXPECT_THAT(tree, ContainsRegex("Pin:1 +#A72920 .* own"));
 }
 
-TEST_F(CliTest, TheWholeTreeHasARowForEveryFace) {
+TEST_F(TreeCommand, TheWholeTreeHasARowForEveryFace) {
   const std::string tree = succeed({"tree", rig(), "--all"});
   EXPECT_THAT(tree, HasSubstr("├─ Arm:1 "));
   EXPECT_THAT(tree, HasSubstr("└─ Face6 "));
@@ -42,12 +44,12 @@ TEST_F(CliTest, TheWholeTreeHasARowForEveryFace) {
   EXPECT_EQ(std::count(tree.begin(), tree.end(), '\n'), 43);
 }
 
-TEST_F(CliTest, TreeHasBlocksInTheColoursOfTheObjectsWhenAsked) {
+TEST_F(TreeCommand, TreeHasBlocksInTheColoursOfTheObjectsWhenAsked) {
   EXPECT_THAT(succeed({"tree", rig(), "--colour", "always"}), HasSubstr("\x1b[48;2;255;0;0m  \x1b[0m #FF0000"));
   EXPECT_THAT(succeed({"tree", rig()}), Not(HasSubstr("\x1b")));
 }
 
-TEST_F(CliTest, JsonTellsTheSameToPrograms) {
+TEST_F(TreeCommand, JsonTellsTheSameToPrograms) {
   const auto tree = nlohmann::json::parse(succeed({"tree", rig(), "--json"}));
   EXPECT_EQ(tree["design"], "Rig");
   EXPECT_EQ(tree["counts"]["faces"], 30);
@@ -65,7 +67,7 @@ TEST_F(CliTest, JsonTellsTheSameToPrograms) {
   EXPECT_EQ(beam["source"], "material");
 }
 
-TEST_F(CliTest, JsonWithEverythingHasAllFaces) {
+TEST_F(TreeCommand, JsonWithEverythingHasAllFaces) {
   const auto tree = nlohmann::json::parse(succeed({"tree", rig(), "--json", "--all"}));
   EXPECT_EQ(tree["bodies"][0]["faces"].size(), 6);
   EXPECT_EQ(tree["bodies"][0]["faces"][5]["source"], "body");

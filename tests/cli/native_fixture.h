@@ -1,0 +1,13 @@
+// The fixture of tests that are not there on Windows, as they take the geometry kernel or what only POSIX systems have.
+#pragma once
+
+#include "tests/cli/cli_fixture.h"
+
+namespace tests {
+
+class NativeCliTest : public CliTest {
+ protected:
+  NativeCliTest();
+};
+
+}  // namespace tests
