@@ -32,9 +32,12 @@ class CompareJournals(unittest.TestCase):
             return subprocess.run([PROGRAM, f"{folder}/native", f"{folder}/windows"], capture_output=True, text=True)
 
     def compare_journals(self, native, windows):
-        """Of the documented profile; under the others both are the same."""
-        others = {profile: {"Suite.Other": sitting(CALLS)} for profile in PROFILES}
-        return self.compare_profiles({**others, "documented": native}, {**others, "documented": windows})
+        """Of the documented profile; under the others all scenarios are the same on both systems."""
+        systems = []
+        for documented in (native, windows):
+            others = {name: sitting(CALLS) for name in documented or ["Suite.Other"]}
+            systems.append({**{profile: others for profile in PROFILES}, "documented": documented})
+        return self.compare_profiles(*systems)
 
     def compare(self, native, windows):
         """The same of scenarios with one sitting each."""
@@ -88,6 +91,26 @@ class CompareJournals(unittest.TestCase):
                     outcome = self.compare_profiles(native, windows)
                     self.assertEqual(outcome.returncode, 1)
                     self.assertIn(f"{profile}: there is nothing to compare", outcome.stdout)
+
+    def test_a_scenario_under_one_profile_only_is_missed_under_the_others(self):
+        one, both = ({name: sitting(CALLS) for name in names} for names in (["Suite.A"], ["Suite.A", "Suite.B"]))
+        whole = {profile: both for profile in PROFILES}
+        for profile in "lenient", "hostile":
+            less = {**whole, profile: one}
+            for native, windows, systems in ((less, whole, "native"), (whole, less, "windows"), (less, less, "both")):
+                with self.subTest(profile=profile, missing=systems):
+                    outcome = self.compare_profiles(native, windows)
+                    self.assertEqual(outcome.returncode, 1)
+                    for system, name in ("natively", "native"), ("on Windows", "windows"):
+                        line = f"missing {system}: {profile}/Suite.B\n"
+                        self.assertEqual(line in outcome.stdout, systems in (name, "both"))
+
+    def test_scenarios_that_are_not_played_under_the_others_are_not_missed(self):
+        names = "Profiles.DemoUnderProfile.Works.hostile", "FaultSweep.EndsWell", "Component.HasBodies"
+        one, more = ({name: sitting(CALLS) for name in ("Suite.A", *others)} for others in ((), names))
+        system = {**{profile: one for profile in PROFILES}, "documented": more}
+        outcome = self.compare_profiles(system, system)
+        self.assertEqual(outcome.returncode, 0, outcome.stdout)
 
     def test_a_difference_under_any_profile_is_shown(self):
         journals = {"Suite.Test": sitting(CALLS)}
