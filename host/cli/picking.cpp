@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "host/cli/failure.h"
 #include "host/cli/glob.h"
 #include "host/cli/text_layout.h"
+#include "host/libraries/suggestions.h"
 
 namespace headless::cli {
 
@@ -16,6 +18,7 @@ constexpr std::array<PickKind, 3> kinds = {PickKind::Component, PickKind::Body, 
 // Looking for near paths among more than this takes longer than anybody waits for an error message.
 constexpr std::size_t comparablePaths = 20'000;
 constexpr std::size_t shownPaths = 4;
+constexpr std::size_t suggestedPaths = 3;
 
 bool matches(const std::string& pattern, const std::string& path) {
   return pattern == path || matchesGlob(pattern, path);
@@ -38,11 +41,64 @@ std::string hintAboutOtherKinds(const model::Design& design, PickKind kind, cons
   return "";
 }
 
+std::vector<std::string> partsOf(const std::string& text, const char* separators) {
+  std::vector<std::string> parts;
+  for (std::size_t from = 0; from <= text.size();) {
+    const std::size_t to = std::min(text.find_first_of(separators, from), text.size());
+    parts.push_back(text.substr(from, to - from));
+    from = to + 1;
+  }
+  return parts;
+}
+
+// "Arm:1+Pin:2/Shaft" gives Arm, Pin and Shaft.
+std::vector<std::string> namesIn(const std::string& path) {
+  std::vector<std::string> names = partsOf(path, "+/");
+  for (std::string& name : names) {
+    name.resize(std::min(name.rfind(':'), name.size()));
+  }
+  return names;
+}
+
+std::string longestLiteralOf(const std::string& pattern) {
+  const std::vector<std::string> literals = partsOf(pattern, "*?[]\\+/:");
+  return *std::max_element(literals.begin(), literals.end(),
+                           [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+}
+
+bool holds(const std::vector<std::string>& texts, const std::string& text) {
+  return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+// A pattern with stars is like no whole path, but what it says literally may be like a name in some.
+std::vector<std::string> pathsWithNearName(const std::string& pattern, const std::vector<std::string>& paths) {
+  std::vector<std::string> names;
+  for (const std::string& path : paths) {
+    for (std::string& name : namesIn(path)) {
+      names.push_back(std::move(name));
+    }
+  }
+  const std::vector<std::string> nearest = libraries::nearestNames(longestLiteralOf(pattern), names, 1);
+  std::vector<std::string> found;
+  if (nearest.empty()) {
+    return found;
+  }
+  for (const std::string& path : paths) {
+    if (found.size() < suggestedPaths && holds(namesIn(path), nearest.front()) && !holds(found, path)) {
+      found.push_back(path);
+    }
+  }
+  return found;
+}
+
 std::string hintAboutPaths(const std::vector<Pickable>& objects, const std::string& pattern) {
   std::vector<std::string> paths(objects.size());
   std::transform(objects.begin(), objects.end(), paths.begin(), [](const Pickable& each) { return each.path; });
   if (paths.size() <= comparablePaths) {
     std::string near = didYouMean(pattern, paths);
+    if (near.empty()) {
+      near = choiceOf(pathsWithNearName(pattern, paths));
+    }
     if (!near.empty()) {
       return near;
     }

@@ -106,12 +106,16 @@ std::string listed(const std::vector<std::string>& texts, std::size_t atMost) {
   return texts.size() <= atMost ? list : list + " and " + std::to_string(texts.size() - atMost) + " more";
 }
 
-std::string didYouMean(const std::string& wanted, const std::vector<std::string>& names) {
+std::string choiceOf(const std::vector<std::string>& texts) {
   std::string question;
-  for (const std::string& name : libraries::nearestNames(wanted, names)) {
-    question.append(question.empty() ? "; did you mean \"" : " or \"").append(name).append("\"");
+  for (const std::string& text : texts) {
+    question.append(question.empty() ? "; did you mean \"" : " or \"").append(text).append("\"");
   }
   return question.empty() ? question : question + "?";
+}
+
+std::string didYouMean(const std::string& wanted, const std::vector<std::string>& names) {
+  return choiceOf(libraries::nearestNames(wanted, names));
 }
 
 std::string swatch(const model::Colour& colour) {

@@ -34,7 +34,10 @@ std::string rangesOf(const std::vector<int>& numbers);
 /// The texts, separated by commas; beyond `atMost` only counted: "A, B and 7 more".
 std::string listed(const std::vector<std::string>& texts, std::size_t atMost);
 
-/// "; did you mean "A" or "B"?", from the names nearest to `wanted`; empty when none is near.
+/// "; did you mean "A" or "B"?"; empty when there is nothing to choose from.
+std::string choiceOf(const std::vector<std::string>& texts);
+
+/// The choice of the names nearest to `wanted`; empty when none is near.
 std::string didYouMean(const std::string& wanted, const std::vector<std::string>& names);
 
 /// Two columns in that colour for a terminal.

@@ -149,12 +149,21 @@ const std::vector<Missing> missingThings = {
     {"Body",
      {"--filter", "body", "--select", "Arm:1/Baem", "--appearance", "RAL 3000 Flame red"},
      "no body of Rig matches \"Arm:1/Baem\"; did you mean \"Arm:1/Beam\""},
+    {"BodyInAPattern",
+     {"--filter", "body", "--select", "*Baem*", "--appearance", "RAL 3000 Flame red"},
+     "no body of Rig matches \"*Baem*\"; did you mean \"Arm:1/Beam\" or \"Arm:2/Beam\"?"},
+    {"OccurrenceInAPattern",
+     {"--filter", "component", "--select", "*+Pni:[1-9]", "--appearance", "RAL 3000 Flame red"},
+     "no component of Rig matches \"*+Pni:[1-9]\"; did you mean \"Arm:1+Pin:1\" or \"Arm:2+Pin:1\"?"},
+    {"NameOnManyPaths",
+     {"--filter", "face", "--select", "Amr:?/*", "--appearance", "RAL 3000 Flame red"},
+     "did you mean \"Arm:1/Beam/Face1\" or \"Arm:1/Beam/Face2\" or \"Arm:1/Beam/Face3\"?"},
     {"ObjectOfAnotherKind",
      {"--filter", "body", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red"},
      "it matches 1 component, for which there is --filter component"},
     {"OneOfSeveralPatterns",
      {"--filter", "body", "--select", "Base", "Leg:*", "--appearance", "RAL 3000 Flame red"},
-     "no body of Rig matches \"Leg:*\""},
+     "no body of Rig matches \"Leg:*\"; there are Base, Arm:1/Beam, Arm:1+Pin:1/Shaft, Arm:2/Beam and 1 more"},
 };
 
 class MissingThing : public CliTest, public WithRow<Missing> {};
