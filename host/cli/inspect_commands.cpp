@@ -66,9 +66,9 @@ void savePictures(Sitting& sitting, const DialogOptions& options) {
 }
 
 void runDialog(const DialogOptions& options) {
-  requireDifferentFiles(options.file, {{"--trace", options.sitting.traceFile},
-                                       {"--picture", options.picture},
-                                       {"--toolbar-picture", options.toolbarPicture}});
+  checkDestinations(options.file, {{"--trace", options.sitting.traceFile},
+                                   {"--picture", options.picture},
+                                   {"--toolbar-picture", options.toolbarPicture}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   sitting.startAddIn();

@@ -11,6 +11,7 @@
 #include "host/cli/failure.h"
 #include "host/cli/geometry.h"
 #include "host/cli/text_layout.h"
+#include "host/files/atomic_file.h"
 
 namespace headless::cli {
 
@@ -39,7 +40,7 @@ void requireEnding(const char* option, const fs::path& file, const std::vector<s
 
 }  // namespace
 
-void requireDifferentFiles(const fs::path& input, const std::vector<NamedOutput>& outputs) {
+void checkDestinations(const fs::path& input, const std::vector<NamedOutput>& outputs) {
   std::vector<NamedOutput> seen;
   for (const NamedOutput& output : outputs) {
     if (output.file.empty()) {
@@ -57,6 +58,9 @@ void requireDifferentFiles(const fs::path& input, const std::vector<NamedOutput>
     }
     seen.push_back(output);
   }
+  for (const NamedOutput& output : seen) {
+    files::checkDestination(output.file);
+  }
 }
 
 void checkOutputs(const fs::path& input, const OutputFiles& outputs, const std::vector<NamedOutput>& others,
@@ -67,14 +71,14 @@ void checkOutputs(const fs::path& input, const OutputFiles& outputs, const std::
   if (!outputs.glb.empty()) {
     requireEnding("--glb", outputs.glb, {".glb"});
   }
-  std::vector<NamedOutput> all = {{designOption, outputs.design}, {"--glb", outputs.glb}};
-  all.insert(all.end(), others.begin(), others.end());
-  requireDifferentFiles(input, all);
   for (const fs::path& file : {outputs.design, outputs.glb}) {
     if (!file.empty()) {
       requireGeometryFor(input, file);
     }
   }
+  std::vector<NamedOutput> all = {{designOption, outputs.design}, {"--glb", outputs.glb}};
+  all.insert(all.end(), others.begin(), others.end());
+  checkDestinations(input, all);
 }
 
 void writeOutputs(const model::Design& design, const OutputFiles& outputs, ProgressStyle progress) {

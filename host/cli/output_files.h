@@ -21,12 +21,13 @@ struct NamedOutput {
   std::filesystem::path file;
 };
 
-/// Raises UsageError when writing one of the outputs would replace the input or another output, under whatever name.
-/// Those without a file are passed over.
-void requireDifferentFiles(const std::filesystem::path& input, const std::vector<NamedOutput>& outputs);
+/// Raises UsageError when writing one of the outputs would replace the input or another output, under whatever name,
+/// and files::Error when one has no folder to go to or is itself a folder. Those without a file are passed over.
+void checkDestinations(const std::filesystem::path& input, const std::vector<NamedOutput>& outputs);
 
 /// Raises UsageError when an output has the wrong ending, takes geometry that the input has not, or would replace the
-/// input, another output or one of `others`. `designOption` is the name under which the command line has the design.
+/// input, another output or one of `others`, and files::Error when one cannot be there. `designOption` is the name
+/// under which the command line has the design.
 void checkOutputs(const std::filesystem::path& input, const OutputFiles& outputs,
                   const std::vector<NamedOutput>& others = {}, const char* designOption = "--save");
 

@@ -20,8 +20,8 @@ struct RenderOptions {
 };
 
 void runRender(const RenderOptions& options) {
-  requireDifferentFiles(options.file, {{"--png", options.png}});
   requireGeometryFor(options.file, options.png);
+  checkDestinations(options.file, {{"--png", options.png}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   // Finer than for viewers, whose smooth shading hides the corners of round faces.

@@ -12,6 +12,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+fs::path folderOf(const fs::path& file) {
+  return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
+
 /// A folder name that nobody else uses at the same time.
 std::string temporaryName(const fs::path& target) {
   std::random_device random;
@@ -24,16 +28,21 @@ void failToWrite(const fs::path& file, const std::string& why, const std::string
   throw Error("Cannot write \"" + file.u8string() + "\": " + why + ". " + help);
 }
 
-AtomicFile::AtomicFile(fs::path destination) : target(std::move(destination)) {
-  const fs::path parent = target.has_parent_path() ? target.parent_path() : fs::path(".");
+void checkDestination(const fs::path& file) {
   std::error_code error;
-  if (!target.has_filename() || fs::is_directory(target, error)) {
-    failToWrite(target, "that is a folder", "Give a file name.");
+  if (!file.has_filename() || fs::is_directory(file, error)) {
+    failToWrite(file, "that is a folder", "Give a file name.");
   }
-  if (!fs::is_directory(parent, error)) {
-    failToWrite(target, "the folder \"" + parent.u8string() + "\" does not exist",
+  if (!fs::is_directory(folderOf(file), error)) {
+    failToWrite(file, "the folder \"" + folderOf(file).u8string() + "\" does not exist",
                 "Create it or choose another folder.");
   }
+}
+
+AtomicFile::AtomicFile(fs::path destination) : target(std::move(destination)) {
+  checkDestination(target);
+  const fs::path parent = folderOf(target);
+  std::error_code error;
   folder = parent / fs::u8path(temporaryName(target));
   if (!fs::create_directory(folder, error)) {
     failToWrite(target, "the folder \"" + parent.u8string() + "\" cannot be written (" + error.message() + ")",

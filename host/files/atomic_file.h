@@ -9,6 +9,10 @@ namespace headless::files {
 /// Raises Error: what cannot be written, why, and what would help.
 [[noreturn]] void failToWrite(const std::filesystem::path& file, const std::string& why, const std::string& help);
 
+/// Raises Error when the file's folder does not exist, or when the file is itself a folder: to be asked before the work
+/// that fills the file.
+void checkDestination(const std::filesystem::path& file);
+
 /// A file under construction, in a temporary folder beside its destination so that it can be moved into place in one
 /// step. Until then an earlier file of that name stays as it is; without commit() nothing remains.
 class AtomicFile {

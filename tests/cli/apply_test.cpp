@@ -177,14 +177,6 @@ TABLE_TEST(MissingThing, IsAFailureThatNamesTheFileAndWhatIsNear) {
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
 }
 
-TEST_F(CliTest, AFolderThatIsNotThereIsAFailureThatNamesIt) {
-  const std::string target = at(assemblyName("no/such/folder/out"));
-  const Outcome outcome = run(
-      {"apply", rig(), "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save", target});
-  EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, AllOf(HasSubstr(target), HasSubstr("folder")));
-}
-
 TEST_F(CliTest, TheDialogIsDrawnAfterApply) {
   succeed(applying(
       {"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--picture", at("dialog.svg")}));

@@ -89,18 +89,69 @@ const std::vector<Misuse> misuses = {
     {"OpenListWithoutPicture", {"dialog", "RIG", "--open-list", "material"}, "requires --picture"},
 };
 
-class CommandLineMisuse : public CliTest, public WithRow<Misuse> {};
+/// RIG stands for the assembly, OUT for a file that does not exist yet.
+class CommandLineTest : public CliTest {
+ protected:
+  std::vector<std::string> argumentsFor(std::vector<std::string> words) const {
+    for (std::string& word : words) {
+      word = word == "RIG" ? rig() : word == "OUT" ? saved() : word;
+    }
+    return words;
+  }
+};
+
+class CommandLineMisuse : public CommandLineTest, public WithRow<Misuse> {};
 
 TABLE(Table, CommandLineMisuse, byName, misuses);
 
-// RIG stands for the assembly, OUT for a file that does not exist yet.
 TABLE_TEST(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
-  std::vector<std::string> arguments = row().arguments;
-  for (std::string& argument : arguments) {
-    argument = argument == "RIG" ? rig() : argument == "OUT" ? saved() : argument;
-  }
-  EXPECT_THAT(fail(2, arguments), HasSubstr(row().message));
+  EXPECT_THAT(fail(2, argumentsFor(row().arguments)), HasSubstr(row().message));
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
+}
+
+struct CommandWithOutput {
+  const char* name;
+  /// Without the output, which comes last.
+  std::vector<std::string> arguments;
+};
+
+const std::vector<CommandWithOutput> commandsWithOutput = {
+    {"Apply", {"apply", "RIG", "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save"}},
+    {"Clear", {"clear", "RIG", "--filter", "body", "--select", "*", "--save"}},
+    {"ClearWithTrace", {"clear", "RIG", "--filter", "body", "--select", "*", "--save", "OUT", "--trace"}},
+    {"ApplyWithPicture",
+     {"apply", "RIG", "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save", "OUT",
+      "--picture"}},
+    {"Dialog", {"dialog", "RIG", "--picture"}},
+    {"Toolbar", {"dialog", "RIG", "--toolbar-picture"}},
+    {"Demo", {"demo", "RIG", "--save"}},
+    {"Convert", {"convert", "RIG"}},
+};
+
+class CommandWithoutPlace : public CommandLineTest, public WithRow<CommandWithOutput> {
+ protected:
+  std::string failSaving(const std::string& target) const {
+    std::vector<std::string> arguments = argumentsFor(row().arguments);
+    arguments.push_back(target);
+    return fail(1, arguments);
+  }
+};
+
+TABLE(Table, CommandWithoutPlace, byName, commandsWithOutput);
+
+// Found before any work: nothing is reported as done, and not even the assembly is read.
+TABLE_TEST(CommandWithoutPlace, SaysAtOnceThatTheFolderIsNotThere) {
+  const std::string target = at(assemblyName("nowhere/out"));
+  EXPECT_EQ(failSaving(target), "tintora-host: Cannot write \"" + target + "\": the folder \"" + at("nowhere") +
+                                    "\" does not exist. Create it or choose another folder.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
+}
+
+TABLE_TEST(CommandWithoutPlace, SaysAtOnceThatTheNameIsThatOfAFolder) {
+  const std::string target = at(assemblyName("folder"));
+  std::filesystem::create_directory(std::filesystem::u8path(target));
+  EXPECT_EQ(failSaving(target), "tintora-host: Cannot write \"" + target + "\": that is a folder. Give a file name.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("folder"), assemblyName("rig")));
 }
 
 TEST_F(CommandLine, AFileThatIsNotThereIsAFailureThatNamesIt) {

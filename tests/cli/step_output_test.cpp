@@ -19,14 +19,23 @@ TEST_F(NativeCliTest, SavedAlsoForViewers) {
 }
 
 TEST_F(NativeCliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
-  std::filesystem::create_directory(at("out.glb"));
-  const Outcome outcome = run(
-      applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", at("out.glb")}));
+  // Just short enough for a file, too long for the folder in which it is put together.
+  const std::string glb = at(std::string(246, 'x') + ".glb");
+  const Outcome outcome =
+      run(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", glb}));
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr(at("out.glb")));
+  EXPECT_THAT(outcome.err, HasSubstr("Cannot write \"" + glb + "\""));
   EXPECT_THAT(outcome.out, EndsWith("Saved " + saved() + "\n"));
   EXPECT_EQ(nlohmann::json::parse(json(saved()))["bodies"][0]["own"]["colour"], "#A72920");
-  EXPECT_THAT(filesInFolder(), ElementsAre("out.glb", "out.step", "rig.step"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("out.step", "rig.step"));
+}
+
+TEST_F(NativeCliTest, WhenTheSecondFileIsAFolderNothingIsDone) {
+  std::filesystem::create_directory(at("out.glb"));
+  EXPECT_EQ(fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb",
+                              at("out.glb")})),
+            "tintora-host: Cannot write \"" + at("out.glb") + "\": that is a folder. Give a file name.\n");
+  EXPECT_THAT(filesInFolder(), ElementsAre("out.glb", "rig.step"));
 }
 
 TEST_F(NativeCliTest, AFileThatIsInTheWayIsReplacedAsAWhole) {
@@ -68,6 +77,12 @@ TEST_F(NativeCliTest, RenderIsACommandToo) {
 
 TEST_F(NativeCliTest, RenderDoesNotDrawOntoItsInput) {
   EXPECT_THAT(fail(2, {"render", rig(), "--png", rig()}), HasSubstr("is the file that is read"));
+}
+
+TEST_F(NativeCliTest, RenderSaysAtOnceThatTheFolderIsNotThere) {
+  EXPECT_EQ(fail(1, {"render", rig(), "--png", at("nowhere/out.png")}),
+            "tintora-host: Cannot write \"" + at("nowhere/out.png") + "\": the folder \"" + at("nowhere") +
+                "\" does not exist. Create it or choose another folder.\n");
 }
 
 TEST_F(NativeCliTest, RenderRefusesTinyPictures) {
