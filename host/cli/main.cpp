@@ -68,10 +68,13 @@ int run(const std::vector<std::string>& arguments) {
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0) {
+      return program.exit(error);
+    }
     if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && program.get_subcommands().empty()) {
       throw UsageError(unknownCommand(program, arguments.front()));
     }
-    return program.exit(error) == 0 ? exitSuccess : exitUsage;
+    throw UsageError(std::string(error.what()) + "\nRun with --help for more information.");
   }
   return exitSuccess;
 }

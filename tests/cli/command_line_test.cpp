@@ -10,7 +10,16 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-class CommandLine : public CliTest {};
+/// RIG stands for the assembly, OUT for a file that does not exist yet.
+class CommandLine : public CliTest {
+ protected:
+  std::vector<std::string> argumentsFor(std::vector<std::string> words) const {
+    for (std::string& word : words) {
+      word = word == "RIG" ? rig() : word == "OUT" ? saved() : word;
+    }
+    return words;
+  }
+};
 
 TEST_F(CommandLine, HelpIsTheManual) {
   const std::string help = succeed({"--help"});
@@ -89,23 +98,12 @@ const std::vector<Misuse> misuses = {
     {"OpenListWithoutPicture", {"dialog", "RIG", "--open-list", "material"}, "requires --picture"},
 };
 
-/// RIG stands for the assembly, OUT for a file that does not exist yet.
-class CommandLineTest : public CliTest {
- protected:
-  std::vector<std::string> argumentsFor(std::vector<std::string> words) const {
-    for (std::string& word : words) {
-      word = word == "RIG" ? rig() : word == "OUT" ? saved() : word;
-    }
-    return words;
-  }
-};
-
-class CommandLineMisuse : public CommandLineTest, public WithRow<Misuse> {};
+class CommandLineMisuse : public CommandLine, public WithRow<Misuse> {};
 
 TABLE(Table, CommandLineMisuse, byName, misuses);
 
 TABLE_TEST(CommandLineMisuse, EndsWithTwoAndSaysWhatIsWrong) {
-  EXPECT_THAT(fail(2, argumentsFor(row().arguments)), HasSubstr(row().message));
+  EXPECT_THAT(fail(2, argumentsFor(row().arguments)), AllOf(StartsWith("tintora-host: "), HasSubstr(row().message)));
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
 }
 
@@ -128,7 +126,7 @@ const std::vector<CommandWithOutput> commandsWithOutput = {
     {"Convert", {"convert", "RIG"}},
 };
 
-class CommandWithoutPlace : public CommandLineTest, public WithRow<CommandWithOutput> {
+class CommandWithoutPlace : public CommandLine, public WithRow<CommandWithOutput> {
  protected:
   std::string failSaving(const std::string& target) const {
     std::vector<std::string> arguments = argumentsFor(row().arguments);
@@ -152,6 +150,10 @@ TABLE_TEST(CommandWithoutPlace, SaysAtOnceThatTheNameIsThatOfAFolder) {
   std::filesystem::create_directory(std::filesystem::u8path(target));
   EXPECT_EQ(failSaving(target), "tintora-host: Cannot write \"" + target + "\": that is a folder. Give a file name.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("folder"), assemblyName("rig")));
+}
+
+TEST_F(CommandLine, AMisuseOfOptionsSaysWhereToReadMore) {
+  EXPECT_EQ(fail(2, {"tree"}), "tintora-host: FILE is required\nRun with --help for more information.\n");
 }
 
 TEST_F(CommandLine, AFileThatIsNotThereIsAFailureThatNamesIt) {
