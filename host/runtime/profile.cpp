@@ -22,6 +22,7 @@ Profile hostileProfile() {
   profile.name = "hostile";
   profile.echo = Echo::AtOnce;
   profile.echoWhileBuilding = true;
+  profile.unchangedValuesReported = true;
   profile.clearSelectionReported = true;
   profile.executeClearsSelection = true;
   profile.clickRaisesTwoEvents = true;

@@ -39,6 +39,8 @@ struct Profile {
   /// Echoes at once begin with the dialog's construction, not only when it is shown; so does the report of a cleared
   /// selection.
   bool echoWhileBuilding = false;
+  /// An input that is set by program to the value that it has already counts as changed, so that it is echoed, too.
+  bool unchangedValuesReported = false;
   /// Clearing a selection by program is reported as a change of the selection input.
   bool clearSelectionReported = false;
   /// Executing without ending clears the selection and reports it.

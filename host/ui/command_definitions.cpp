@@ -27,7 +27,7 @@ ListControlDefinitionObject::ListControlDefinitionObject(const std::string& show
   ListRules rules;
   rules.isSingleChoice = display != adsk::core::CheckBoxListType;
   rules.keepsActiveItem = false;
-  list_ = makeObject<ListItemsObject>(shownName, rules, [] {});
+  list_ = makeObject<ListItemsObject>(shownName, rules, [](bool) {});
   for (const std::string& itemName : itemNames) {
     list_->append(itemName);
   }

@@ -58,7 +58,7 @@ ButtonRowInput::ButtonRowInput(InputOwner& inputOwner, InputCollection& collecti
   rules.isSingleChoice = !isMultiSelect;
   rules.isButtonRow = true;
   rules.keepsActiveItem = false;
-  list_ = makeObject<ListItemsObject>(this->inputId(), rules, [this] { owner.inputChangedByProgram(*this); });
+  list_ = makeObject<ListItemsObject>(this->inputId(), rules, [this](bool isOther) { reportSet(isOther); });
 }
 
 Ptr<ListItems> ButtonRowInput::listItems() const {
@@ -85,7 +85,7 @@ DropDownInput::DropDownInput(InputOwner& inputOwner, InputCollection& collection
   rules.isSingleChoice = dropDownStyle != adsk::core::CheckBoxDropDownStyle;
   rules.hasIcons = dropDownStyle == adsk::core::LabeledIconDropDownStyle;
   rules.keepsActiveItem = rules.isSingleChoice;
-  list_ = makeObject<ListItemsObject>(this->inputId(), rules, [this] { owner.inputChangedByProgram(*this); });
+  list_ = makeObject<ListItemsObject>(this->inputId(), rules, [this](bool isOther) { reportSet(isOther); });
 }
 
 adsk::core::DropDownStyles DropDownInput::dropDownStyle() const {
@@ -132,11 +132,10 @@ bool TextBoxInput::setContent(const char* member, const std::string& value, bool
   return call(
       member,
       [&] {
-        if (content != value || isMarkup != asMarkup) {
-          content = value;
-          isMarkup = asMarkup;
-          owner.inputChangedByProgram(*this);
-        }
+        const bool isOther = content != value || isMarkup != asMarkup;
+        content = value;
+        isMarkup = asMarkup;
+        reportSet(isOther);
         return true;
       },
       value);

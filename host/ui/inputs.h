@@ -58,6 +58,12 @@ class InputCore {
 
  protected:
   virtual ~InputCore() = default;
+  /// Reports that a program set the value, if the profile takes that for a change.
+  void reportSet(bool isOtherValue) {
+    if (isOtherValue || owner.hostProfile().unchangedValuesReported) {
+      owner.inputChangedByProgram(*this);
+    }
+  }
 
   InputOwner& owner;
   InputCollection& home;
@@ -171,16 +177,13 @@ class Input : public HostObject<Interface>, public InputCore {
   std::string traceDetail() const override { return inputId(); }
   virtual void visibilityChanged() {}
 
-  /// Stores a new value and reports the change; the same value again is no change.
+  /// Stores a new value and reports the change; whether the same value again is one is the profile's choice.
   template <class Value>
   bool store(const char* member, Value& field, const Value& value) {
     return this->call(
         member,
         [&] {
-          if (field != value) {
-            field = value;
-            owner.inputChangedByProgram(*this);
-          }
+          reportSet(std::exchange(field, value) != value);
           return true;
         },
         value);

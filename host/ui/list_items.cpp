@@ -8,8 +8,8 @@ namespace headless {
 using adsk::core::ListItem;
 using adsk::core::Ptr;
 
-ListItemsObject::ListItemsObject(std::string owner, ListRules listRules, std::function<void()> changed)
-    : owner_(std::move(owner)), rules_(listRules), changed_(std::move(changed)) {}
+ListItemsObject::ListItemsObject(std::string owner, ListRules listRules, std::function<void(bool)> selectionSet)
+    : owner_(std::move(owner)), rules_(listRules), selectionSet_(std::move(selectionSet)) {}
 
 ListItemsObject::~ListItemsObject() {
   markAllDeleted();
@@ -34,7 +34,7 @@ Ptr<ListItem> ListItemsObject::add(const std::string& name, bool isSelected, con
         }
         const Ptr<ListItem> added = insert(name, isSelected, icon, beforeIndex);
         if (isSelected) {
-          changed_();
+          selectionSet_(true);
         }
         return added;
       },
@@ -60,7 +60,7 @@ bool ListItemsObject::clear() {
     items.clear();
     selectedItem = nullptr;
     if (hadSelection) {
-      changed_();
+      selectionSet_(true);
     }
     return true;
   });
@@ -134,10 +134,11 @@ bool ListItemObject::isSelected(bool value) {
   return call(
       "isSelected=",
       [&] {
-        if (selected != value) {
+        const bool isOther = selected != value;
+        if (isOther) {
           list.setSelected(*this, value);
-          list.reportChange();
         }
+        list.reportSet(isOther);
         return true;
       },
       value);

@@ -27,8 +27,9 @@ struct ListRules {
 /// The items of one list. Owned by its input or control definition.
 class ListItemsObject final : public HostObject<adsk::core::ListItems> {
  public:
-  /// `owner` names the list in traces; `changed` is called after a change by program.
-  ListItemsObject(std::string owner, ListRules listRules, std::function<void()> changed);
+  /// `owner` names the list in traces; `selectionSet` is called after a program set which item is selected, with false
+  /// where that is as it was.
+  ListItemsObject(std::string owner, ListRules listRules, std::function<void(bool)> selectionSet);
   ~ListItemsObject() override;
 
   adsk::core::Ptr<adsk::core::ListItem> item(size_t index) const override;
@@ -45,7 +46,7 @@ class ListItemsObject final : public HostObject<adsk::core::ListItems> {
   adsk::core::Ptr<ListItemObject> selected() const;
   /// Selects or unselects without reporting a change, as the user's own action does.
   void setSelected(ListItemObject& item, bool isSelected);
-  void reportChange() const { changed_(); }
+  void reportSet(bool isOtherValue) const { selectionSet_(isOtherValue); }
   /// Position of the item; -1 when it is not in the list.
   int indexOf(const ListItemObject& item) const;
   bool remove(ListItemObject& item);
@@ -64,7 +65,7 @@ class ListItemsObject final : public HostObject<adsk::core::ListItems> {
 
   std::string owner_;
   ListRules rules_;
-  std::function<void()> changed_;
+  std::function<void(bool)> selectionSet_;
   std::vector<adsk::core::Ptr<ListItemObject>> items;
   ListItemObject* selectedItem = nullptr;
 };

@@ -115,6 +115,45 @@ TEST_F(Switch, EchoReportsNoChangeToTheSameValue) {
   EXPECT_EQ(log, Log({"inputChanged(line)"}));
 }
 
+TEST_F(Switch, UnchangedValuesReportedEchoesAChangeToTheSameValue) {
+  openWith([](Profile& profile) {
+    profile.echo = Echo::AtOnce;
+    profile.unchangedValuesReported = true;
+  });
+  setLine("");
+  input<GroupCommandInput>("group")->isExpanded(true);
+  input<GroupCommandInput>("group")->isEnabledCheckBoxChecked(true);
+  input<BoolValueCommandInput>("button")->value(false);
+  EXPECT_EQ(log, Log({"inputChanged(line)", "inputChanged(group)", "inputChanged(group)", "inputChanged(button)"}));
+}
+
+TEST_F(Switch, UnchangedValuesReportedEchoesTextsAndListItemsToo) {
+  start(profileWith([](Profile& profile) {
+    profile.echo = Echo::AtOnce;
+    profile.unchangedValuesReported = true;
+  }));
+  HostDialogTest::open([](const Inputs& inputs) {
+    inputs->addTextBoxCommandInput("text", "", "a", 1, true);
+    const auto list = inputs->addDropDownCommandInput("list", "", TextListDropDownStyle)->listItems();
+    list->add("first", true);
+    list->add("second", false);
+  });
+  input<TextBoxCommandInput>("text")->formattedText("a");
+  input<DropDownCommandInput>("list")->listItems()->item(0)->isSelected(true);
+  EXPECT_EQ(log, Log({"inputChanged(text)", "inputChanged(list)"}));
+  EXPECT_EQ(input<DropDownCommandInput>("list")->selectedItem()->name(), "first");
+}
+
+TEST_F(Switch, UnchangedValuesReportedNeedsAnEcho) {
+  openWith([](Profile& profile) { profile.unchangedValuesReported = true; });
+  reactTo("button", [this] {
+    setLine("");
+    setLine("x");
+  });
+  session().click("button");
+  EXPECT_EQ(log, Log({"inputChanged(button)", "reacted"}));
+}
+
 TEST_F(Switch, EchoThatNeverRestsIsStopped) {
   for (const Echo echo : {Echo::AfterEvent, Echo::AtOnce}) {
     Profile profile;

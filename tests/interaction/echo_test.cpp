@@ -50,6 +50,11 @@ const std::vector<EchoedUse> echoedUses = {
        s.expand("idGroupMaterial", false);
        s.expand("idGroupMaterial", true);
      }},
+    {"CloseBothGroups",
+     [](Session& s) {
+       s.expand("idGroupAppearance", false);
+       s.expand("idGroupMaterial", false);
+     }},
     {"TickCheckBox", [](Session& s) { s.tick("idKeepAppearance", true); }, true},
     {"TickAndUntickCheckBox",
      [](Session& s) {
@@ -75,10 +80,11 @@ class EchoedAction : public AddInTest, public WithRow<EchoedUse> {
   }
 
   /// What the user sees after the action in a host with such echoes. Each time the user comes to the add-in anew.
-  std::string screenAfterAction(Echo echo) {
+  std::string screenAfterAction(Echo echo, bool areUnchangedValuesReported = false) {
     folder.remove(settingsFile());
     Profile profile;
     profile.echo = echo;
+    profile.unchangedValuesReported = areUnchangedValuesReported;
     start(profile);
     body("Machine", "Base").appearance = look("Old paint");
     openDialog();
@@ -105,6 +111,16 @@ TABLE_TEST(EchoedAction, ComesToRestWhenEchoesComeLater) {
   const std::string withoutEcho = screenAfterAction(Echo::None);
   const std::string withLateEcho = screenAfterAction(Echo::AfterEvent);
   EXPECT_EQ(withLateEcho == withoutEcho, !row().isUndoneByLateEcho);
+}
+
+TABLE_TEST(EchoedAction, EndsAlikeWhenEvenUnchangedValuesAreReportedAtOnce) {
+  const std::string withoutEcho = screenAfterAction(Echo::None);
+  EXPECT_EQ(screenAfterAction(Echo::AtOnce, true), withoutEcho);
+}
+
+TABLE_TEST(EchoedAction, ComesToRestAlikeWhenEvenUnchangedValuesAreReportedLater) {
+  const std::string withLateEcho = screenAfterAction(Echo::AfterEvent);
+  EXPECT_EQ(screenAfterAction(Echo::AfterEvent, true), withLateEcho);
 }
 
 using EchoAtOnce = AddInTest;

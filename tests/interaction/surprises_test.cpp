@@ -26,6 +26,11 @@ const std::vector<Surprise> surprises = {
     {"SelectionNeverCleared", [](Profile& p) { p.editClearsSelection = EditClearsSelection::Never; }},
     {"EchoAtOnce", [](Profile& p) { p.echo = Echo::AtOnce; }},
     {"EchoAfterEvent", [](Profile& p) { p.echo = Echo::AfterEvent; }},
+    {"EchoAfterEventEvenOfUnchangedValues",
+     [](Profile& p) {
+       p.echo = Echo::AfterEvent;
+       p.unchangedValuesReported = true;
+     }},
     {"FreshWrappers", [](Profile& p) { p.freshWrappers = true; }},
     {"AppearanceCopied", [](Profile& p) { p.libraryAppearance = LibraryAppearance::Copied; }},
     {"ClickTwice", [](Profile& p) { p.clickRaisesTwoEvents = true; }},
