@@ -146,6 +146,15 @@ TEST_F(EchoAtOnce, IsIgnoredAfterOneLookAtItsInput) {
   EXPECT_THAT(containing("GroupCommandInput(idGroupAppearance).isExpanded()", trace), IsEmpty());
 }
 
+// The group empties its filter and fills its list; the echo of the filter would have the list filled once more.
+TEST_F(EchoAtOnce, OfAnEmptiedFilterDoesNotRefillTheMaterialListAgain) {
+  startDialog(withEchoAtOnce());
+  session().type("idFilterMaterial", "steel");
+  const Lines trace = traceOf(session(), [&] { session().expand("idGroupMaterial", false); });
+  EXPECT_EQ(containing("event inputChanged(idFilterMaterial)", trace).size(), 1U);
+  EXPECT_EQ(containing("ListItems(idMaterialList).clear()", trace).size(), 1U);
+}
+
 /// Lets go of the selection in the middle of the add-in's reaction to the check box.
 class ClearsSelectionDuringEcho : public adsk::core::InputChangedEventHandler {
  public:
