@@ -319,6 +319,21 @@ TEST_F(LimitedHost, ThatReportsOwnLooksAsOverridesKeepsOnlyThoseOfOccurrences) {
   expectCleanEnd();
 }
 
+// No material is assigned, which would have cleared the body's look before anybody could ask about it.
+TEST_F(LimitedHost, ThatReportsOwnLooksAsOverridesIsAskedNothingAboutABodyBelowAnOccurrence) {
+  Profile profile;
+  profile.ownAppearanceIsOverride = true;
+  openPainted(profile);
+  assignAppearancesOnly(session());
+  pickOnly(session(), "Component", {"Bolt:2"});
+  session().click("idBtnApply");
+  EXPECT_THAT(session().messageBoxes(), IsEmpty());
+  EXPECT_EQ(ownLook(occurrence("Bolt:2")), red);
+  EXPECT_EQ(ownLook(body("Bolt", "Shank")), "Shank paint");
+  EXPECT_EQ(ownLook(headFace()), "Head paint");
+  expectCleanEnd();
+}
+
 TEST_F(LimitedHost, ThatReportsOwnLooksAsOverridesStillHasThemRemoved) {
   Profile profile;
   profile.ownAppearanceIsOverride = true;
