@@ -7,7 +7,7 @@ namespace tests {
 
 namespace {
 
-constexpr const char* demoAssembly = "as1-tu-203.stp";
+constexpr const char* assemblyOfTheDemo = "as1-tu-203.stp";
 
 }  // namespace
 
@@ -16,11 +16,11 @@ headless::model::Body& addRigBody(headless::model::Component& component, const s
 }
 
 std::filesystem::path findDemoAssembly() {
-  return headless::step::findStepFile(demoAssembly);
+  return headless::step::findStepFile(assemblyOfTheDemo);
 }
 
 std::string explainMissingDemoAssembly() {
-  return headless::step::explainMissing(demoAssembly);
+  return headless::step::explainMissing(assemblyOfTheDemo);
 }
 
 }  // namespace tests
