@@ -332,7 +332,7 @@ TEST_F(CommandDialog, LeavesTheListsOfEmptyLibrariesWithoutAnyItem) {
 
 class NoColourLibrary : public CommandDialog, public WithRow<const char*> {};
 
-TABLE(Names, NoColourLibrary, byText, {"Woods", "ral_colors", "RAL COLORS", "RAL_COLOR"});
+TABLE(Names, NoColourLibrary, byNumber, {"Woods", "ral_colors", "RAL COLORS", "RAL_COLOR"});
 
 TABLE_TEST(NoColourLibrary, EndsTheDialogAfterTheAppearanceList) {
   addAppearanceLibrary("RAL_COLORS.adsklib", row(), ralNames);

@@ -1,5 +1,6 @@
 #include "tests/support/tables.h"
 
+#include <algorithm>
 #include <cctype>
 #include <numeric>
 #include <set>
@@ -17,6 +18,15 @@ std::string asPartOfAName(std::string text) {
   return text;
 }
 
+/// Journals are named after tests, and some systems take letters of both cases in names of files for the same.
+bool hasEqualNames(std::vector<std::string> names) {
+  for (std::string& name : names) {
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  }
+  return std::set<std::string>(names.begin(), names.end()).size() < names.size();
+}
+
 }  // namespace
 
 const void*& rowOfNextTest() {
@@ -32,7 +42,7 @@ bool Table::addTest(const char* name, const char* file, int line, ::testing::Tes
   if (names.empty()) {
     throw std::logic_error("the table of " + suite_ + " has no rows");
   }
-  if (std::set<std::string>(names.begin(), names.end()).size() < names.size()) {
+  if (hasEqualNames(names)) {
     throw std::logic_error("two rows of the table of " + suite_ + " have the same name");
   }
   for (std::size_t i = 0; i < rows_.size(); ++i) {

@@ -60,7 +60,8 @@ class Table {
       : Table(std::move(suite), rows, [&](const Row& row) { return std::to_string(&row - rows.data()); }) {}
 
   /// Makes a test for each row known to googletest. Gives true, so that it can be called where variables are defined.
-  /// Raises std::logic_error where there are no rows, or two of one name: there would be fewer tests than meant.
+  /// Raises std::logic_error where there are no rows, or two of one name, in whatever case: there would be fewer tests
+  /// or journals.
   bool addTest(const char* name, const char* file, int line, ::testing::Test* (*make)()) const;
 
  private:

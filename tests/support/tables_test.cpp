@@ -41,8 +41,10 @@ TEST(Tables, WithoutRowsAreAMistake) {
 }
 
 TEST(Tables, WhoseTestsWouldHaveTheSameNameAreAMistake) {
-  const std::vector<std::string> alike = {"a.b", "c", "a b"};
-  EXPECT_THROW(Table("Some/Fixture", alike, byText).addTest("Test", "file", 1, noTest), std::logic_error);
+  for (const char* alike : {"a b", "A.B"}) {
+    const std::vector<std::string> rows = {"a.b", "c", alike};
+    EXPECT_THROW(Table("Some/Fixture", rows, byText).addTest("Test", "file", 1, noTest), std::logic_error) << alike;
+  }
 }
 
 TEST(Tables, OfPairsHaveEveryOneWithEveryOther) {
