@@ -177,11 +177,11 @@ HINSTANCE ShellExecuteA(HWND, LPCSTR operation, LPCSTR file, LPCSTR, LPCSTR, INT
 namespace headless::desktop {
 
 Cursor cursor() {
-  const auto& [current, displayCount] = std::pair(desktopState().current, desktopState().displayCount);
-  if (current == cursorNamed(IDC_ARROW)) {
-    return {CursorShape::Arrow, displayCount};
+  const auto& state = desktopState();
+  if (state.current == cursorNamed(IDC_ARROW)) {
+    return {CursorShape::Arrow, state.displayCount};
   }
-  return {current == cursorNamed(IDC_WAIT) ? CursorShape::Wait : CursorShape::Other, displayCount};
+  return {state.current == cursorNamed(IDC_WAIT) ? CursorShape::Wait : CursorShape::Other, state.displayCount};
 }
 
 std::vector<std::string> openedFiles() {
