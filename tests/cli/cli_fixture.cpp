@@ -20,7 +20,9 @@ model::Placement moved(double x, double z) {
 
 }  // namespace
 
-CliTest::CliTest() {
+CliTest::CliTest(Program testedProgram)
+    : ProgramTest(testedProgram),
+      assemblyEnding(testedProgram == Program::Usual && headless::cli::hasGeometry() ? ".step" : ".design.json") {
   model::Design design("Rig");
   model::Component& pin = design.addComponent("Pin");
   model::Body& shaft = addRigBody(pin, "Shaft", 5.0);
@@ -34,10 +36,6 @@ CliTest::CliTest() {
   design.root().addInstance(arm, moved(0, 30));
   design.root().addInstance(arm, moved(15, 30));
   headless::cli::writeDesign(design, std::filesystem::u8path(rig()), {});
-}
-
-std::string CliTest::assemblyName(const std::string& stem) {
-  return stem + (headless::cli::hasGeometry() ? ".step" : ".design.json");
 }
 
 std::vector<std::string> CliTest::applying(std::vector<std::string> arguments) const {

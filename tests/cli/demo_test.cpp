@@ -12,7 +12,10 @@ namespace {
 
 using ::testing::HasSubstr;
 
-class DemoUnderProfile : public CliTest, public WithRow<const char*> {};
+class DemoUnderProfile : public CliTest, public WithRow<const char*> {
+ protected:
+  DemoUnderProfile() : CliTest(Program::Usual) {}
+};
 
 TABLE(Profiles, DemoUnderProfile, byText, {"lenient", "documented", "hostile"});
 

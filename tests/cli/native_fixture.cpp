@@ -2,7 +2,7 @@
 
 namespace tests {
 
-NativeCliTest::NativeCliTest() {
+NativeCliTest::NativeCliTest() : CliTest(Program::Usual) {
   keepNoJournal();
 }
 

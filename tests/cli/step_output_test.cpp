@@ -10,6 +10,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 TEST_F(NativeCliTest, SavedAlsoForViewers) {
@@ -60,6 +61,13 @@ TEST_F(NativeCliTest, ARealAssemblyIsPaintedAndReadBack) {
     }
   }
   EXPECT_EQ(after["occurrences"][0], before["occurrences"][0]);
+}
+
+TEST_F(NativeCliTest, ARealAssemblyIsClearedAndReadBack) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  EXPECT_THAT(json(file.string()), HasSubstr("\"own\": {"));
+  succeed({"clear", file.string(), "--filter", "component", "--select", "*", "--save", at("plain.step")});
+  EXPECT_THAT(json(at("plain.step")), Not(HasSubstr("\"own\": {")));
 }
 
 TEST_F(NativeCliTest, TreeOfARealAssembly) {
