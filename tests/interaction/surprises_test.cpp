@@ -259,8 +259,12 @@ TABLE_TEST(Habit, IsSeenInOneTaskAtLeast) {
     // There an edit has cleared it already.
     usual.editClearsSelection = EditClearsSelection::Never;
   }
-  EXPECT_TRUE(std::any_of(tasks.begin(), tasks.end(),
-                          [&](const Task& task) { return seenIn(task, profile) != seenIn(task, usual); }));
+  // One after the other, as compilers differ in which they would do first.
+  const auto isSeenIn = [&](const Task& task) {
+    const auto asUsual = seenIn(task, usual);
+    return seenIn(task, profile) != asUsual;
+  };
+  EXPECT_TRUE(std::any_of(tasks.begin(), tasks.end(), isSeenIn));
 }
 
 using LimitedHost = Surprising;

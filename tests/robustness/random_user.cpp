@@ -72,9 +72,9 @@ class ActionDice {
         return {"let go of everything", [](Session& session) { session.clearPicks(); }};
       case 11:
       case 12:
-        return chooseInList(oneOf(lists), below(4));
+        return chooseInAList();
       case 13:
-        return typeInto(oneOf(filters), oneOf(filterTexts));
+        return typeIntoAFilter();
       case 14:
         return onOff("tick", oneOf(ticks), &Session::tick);
       case 15:
@@ -114,12 +114,17 @@ class ActionDice {
             }};
   }
 
-  static UserAction chooseInList(const std::string& list, std::size_t index) {
+  // Numbers are drawn one by one, as compilers work out arguments in different orders.
+  UserAction chooseInAList() {
+    const std::string& list = oneOf(lists);
+    const std::size_t index = below(4);
     return {"choose item " + std::to_string(index) + " in " + list,
             [=](Session& session) { session.choose(list, index); }};
   }
 
-  static UserAction typeInto(const std::string& input, const std::string& text) {
+  UserAction typeIntoAFilter() {
+    const std::string& input = oneOf(filters);
+    const std::string& text = oneOf(filterTexts);
     return {"type \"" + text + "\" into " + input, [=](Session& session) { session.type(input, text); }};
   }
 
