@@ -4,7 +4,7 @@ function(add_host_module target objects folder description)
   target_include_directories(${objects} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${objects} PUBLIC host_api)
   set_target_properties(${objects} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT WIN32)
     # Unique symbols would keep the module in memory after it was unloaded.
     target_compile_options(${objects} PRIVATE -fno-gnu-unique)
   endif()
