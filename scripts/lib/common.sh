@@ -87,14 +87,13 @@ launcher_options() {
 # show_progress PROCESS LOG PATTERN: while the process runs, shows how far its log says it is; on a terminal in place,
 # elsewhere, and where several lanes share the terminal, a line every half minute.
 show_progress() {
-  local shown=$SECONDS in_place=false at
+  local process=$1 shown=$SECONDS in_place=false last_step=(grep -soE "$3" "$2")
   [ ! -t 1 ] || [ -n "$lane" ] || in_place=true
-  while kill -0 "$1" 2>/dev/null; do
-    at=$(grep -oE "$3" "$2" 2>/dev/null | tail -n 1 || true)
+  while kill -0 "$process" 2>/dev/null; do
     if $in_place; then
-      printf '\r  %s ' "$at"
+      printf '\r  %s ' "$("${last_step[@]}" | tail -n 1)"
     elif [ $((SECONDS - shown)) -ge 30 ]; then
-      printf '  [%3d s] %s%s\n' "$((SECONDS - started))" "${lane:+$lane: }" "$at"
+      printf '  [%3d s] %s%s\n' "$((SECONDS - started))" "${lane:+$lane: }" "$("${last_step[@]}" | tail -n 1)"
       shown=$SECONDS
     fi
     sleep 0.5
