@@ -57,13 +57,10 @@ void* RisingAddresses::take(std::size_t size) {
   while (block != nullptr && !block->isOpen) {
     block = block->older;
   }
-  if (block == nullptr) {
-    return ::operator new(size);
-  }
   constexpr std::size_t alignment = alignof(std::max_align_t);
   const std::size_t rounded = (size + alignment - 1) / alignment * alignment;
-  if (rounded > block->room - block->used) {
-    throw std::bad_alloc();
+  if (block == nullptr || rounded > block->room - block->used) {
+    return ::operator new(size);
   }
   void* const memory = block->memory.get() + block->used;
   block->used += rounded;

@@ -16,14 +16,14 @@ namespace headless {
 class RisingAddresses {
  public:
   /// `room` is for all objects that are made meanwhile, as no address is given twice; what of it stays unused costs
-  /// nothing but addresses.
+  /// nothing but addresses. Objects that find no room any more lie where the system puts them: a very long journal
+  /// loses its order rather than its session.
   explicit RisingAddresses(std::size_t room = std::size_t{1} << 28U);
   ~RisingAddresses();
   RisingAddresses(const RisingAddresses&) = delete;
   RisingAddresses& operator=(const RisingAddresses&) = delete;
 
-  /// Memory for an object, from the system when there are no rising addresses; raises std::bad_alloc when there is no
-  /// room.
+  /// Memory for an object, from the system when there are no rising addresses or no room.
   static void* take(std::size_t size);
   /// Gives back what was taken, at any time.
   static void giveBack(void* memory);
