@@ -9,7 +9,7 @@ set(quick_compiler "${clang} --target=x86_64-w64-windows-gnu")
 set(quick_link "${quick_compiler} --ld-path=${lld} -L${compiler_libraries}")
 set(CMAKE_CXX_LINK_EXECUTABLE
   "${quick_link} <FLAGS> <CMAKE_CXX_LINK_FLAGS> <LINK_FLAGS> <OBJECTS> -o <TARGET> <LINK_LIBRARIES> -lpthread")
-# Everything is exported but what the compiler's run-time library brings for exceptions, which each module has of its own.
+# Everything is exported but what the compiler's run-time library brings for exceptions: each module has its own.
 set(exports "<TARGET>.def")
 string(CONCAT link_listing_exports "${quick_link} -shared <LINK_FLAGS> <OBJECTS> -o <TARGET> "
   "-Wl,--output-def,${exports}.all <LINK_LIBRARIES> -lpthread")
@@ -19,10 +19,11 @@ set(CMAKE_CXX_CREATE_SHARED_LIBRARY
   "${link_listing_exports}" "sed -e /_Unwind_/d -e /_GCC_/d ${exports}.all > ${exports}" "${link_with_exports}")
 
 # compile_quickly(): has LLVM compile the calling folder's sources, with the library of mingw-w64. Variables of a thread
-# and the comparison of types are made as that compiler makes them.
+# and the comparison of types are made as that compiler makes them; options that only that one knows are passed over.
 macro(compile_quickly)
   set(library ${compiler_libraries}/include/c++)
   string(CONCAT CMAKE_CXX_COMPILE_OBJECT "${quick_compiler} -femulated-tls -D__GXX_TYPEINFO_EQUALITY_INLINE=0 "
-    "-nostdinc++ -isystem ${library} -isystem ${library}/x86_64-w64-mingw32 -isystem ${library}/backward "
+    "-Wno-unused-command-line-argument -nostdinc++ "
+    "-isystem ${library} -isystem ${library}/x86_64-w64-mingw32 -isystem ${library}/backward "
     "<DEFINES> <INCLUDES> <FLAGS> -o <OBJECT> -c <SOURCE>")
 endmacro()
