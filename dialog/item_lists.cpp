@@ -120,11 +120,15 @@ void fillItemList(const std::string& libraryId, const std::string& filterId, con
   if (!library || !filter || !list) {
     return;
   }
+  // One call after the other, as operands and arguments would be worked out in an order of the compiler's choice.
   NameSequence names;
-  if (library->id() == libAssetsInput->id()) {
-    names = listAppearanceNames(library->selectedItem()->name(), filter->value());
-  } else if (library->id() == libMaterialsInput->id()) {
-    names = listMaterialNames(library->selectedItem()->name(), filter->value());
+  const std::string id = library->id();
+  if (id == libAssetsInput->id()) {
+    const std::string libraryName = library->selectedItem()->name();
+    names = listAppearanceNames(libraryName, filter->value());
+  } else if (id == libMaterialsInput->id()) {
+    const std::string libraryName = library->selectedItem()->name();
+    names = listMaterialNames(libraryName, filter->value());
   }
   if (isColourLibrary(library->selectedItem()->name())) {
     addColourItems(list, names);

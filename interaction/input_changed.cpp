@@ -37,12 +37,17 @@ void clearText(const Ptr<core::StringValueCommandInput>& text) {
   }
 }
 
+// Arguments would be asked for in an order of the compiler's choice.
 void refillAppearanceList() {
-  fillItemList(libAssetsInput->id(), filterAppearanceInput->id(), appearanceListInput->id());
+  const std::string libraryId = libAssetsInput->id();
+  const std::string filterId = filterAppearanceInput->id();
+  fillItemList(libraryId, filterId, appearanceListInput->id());
 }
 
 void refillMaterialList() {
-  fillItemList(libMaterialsInput->id(), filterMaterialInput->id(), materialListInput->id());
+  const std::string libraryId = libMaterialsInput->id();
+  const std::string filterId = filterMaterialInput->id();
+  fillItemList(libraryId, filterId, materialListInput->id());
 }
 
 /// Selects the third item of the host's own selection filter list, where the host has that list.
