@@ -29,6 +29,11 @@ TEST_F(NativeCliTest, TreeInATerminalHasBlocksInTheColoursOfTheObjects) {
   EXPECT_THAT(runInTerminal({"tree", rig(), "--colour", "never"}, "").out, Not(HasSubstr("\x1b[48")));
 }
 
+TEST_F(NativeCliTest, ReadingALargeAssemblyShowsHowFarItIs) {
+  WITH_STEP_FILE(file, "motor-driver-board-v3.5.step");
+  EXPECT_THAT(runInTerminal({"tree", file.string()}, "").out, HasSubstr("motor-driver-board-v3.5.step: translating "));
+}
+
 TEST_F(NativeCliTest, TheInputIsRecognisedUnderAnotherName) {
   std::filesystem::create_symlink(rig(), at(assemblyName("alias")));
   const std::string before = content(assemblyName("rig"));

@@ -1,12 +1,16 @@
 // What takes the geometry kernel: STEP files in and out, files for viewers, pictures of assemblies.
 #include <nlohmann/json.hpp>
+#include <set>
 
+#include "host/cli/geometry.h"
+#include "tests/cli/assemblies.h"
 #include "tests/cli/native_fixture.h"
 #include "tests/step/step_files.h"
 
 namespace tests {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
@@ -65,9 +69,67 @@ TEST_F(NativeCliTest, ARealAssemblyIsPaintedAndReadBack) {
 
 TEST_F(NativeCliTest, ARealAssemblyIsClearedAndReadBack) {
   WITH_STEP_FILE(file, "as1-tu-203.stp");
-  EXPECT_THAT(json(file.string()), HasSubstr("\"own\": {"));
+  const std::string before = json(file.string());
+  EXPECT_THAT(before, HasSubstr("\"own\": {"));
   succeed({"clear", file.string(), "--filter", "component", "--select", "*", "--save", at("plain.step")});
-  EXPECT_THAT(json(at("plain.step")), Not(HasSubstr("\"own\": {")));
+  const std::string after = json(at("plain.step"));
+  EXPECT_THAT(after, Not(HasSubstr("\"own\": {")));
+  EXPECT_EQ(nlohmann::json::parse(after)["counts"], nlohmann::json::parse(before)["counts"]);
+}
+
+TEST_F(NativeCliTest, AMaterialOfTheLibrariesIsKnownAgainInAnAssembly) {
+  const std::vector<std::string> what = {
+      "--filter", "body", "--select", "Base", "--material", "Brass C26000", "--set-appearance-by-material"};
+  succeed(applying(what));
+  const auto base = nlohmann::json::parse(json(saved()))["bodies"][0];
+  EXPECT_TRUE(base["own"].is_null());
+  EXPECT_EQ(base["shows"]["name"], "Brass - Polished");
+  EXPECT_EQ(base["material"]["name"], "Brass C26000");
+  EXPECT_EQ(base["material"]["density"], 8530);
+  std::filesystem::rename(saved(), rig());
+  EXPECT_THAT(succeed(applying(what)), StartsWith("Nothing changed"));
+}
+
+TEST_F(NativeCliTest, AComponentOfAnAssemblyIsPaintedInPlaceOfWhatIsInIt) {
+  succeed(applying(
+      {"--filter", "component", "--select", "Arm:1", "--appearance", "RAL 3000 Flame red", "--answer", "yes"}));
+  const auto tree = nlohmann::json::parse(json(saved()));
+  EXPECT_EQ(tree["occurrences"][0]["own"]["colour"], "#A72920");
+  EXPECT_TRUE(tree["occurrences"][1]["own"].is_null());
+  EXPECT_EQ(tree["bodies"][0]["own"]["colour"], "#FF0000");
+}
+
+TEST_F(NativeCliTest, FacesAndBodiesOfAnAssemblyArePaintedAndClearedOneByOne) {
+  succeed(applying({"--filter", "face", "--select", "Base/Face2", "--appearance", "RAL 3000 Flame red"}));
+  const auto painted = nlohmann::json::parse(json(saved()))["bodies"][0];
+  EXPECT_EQ(painted["faces"][0]["source"], "body");
+  EXPECT_EQ(painted["faces"][1]["source"], "face");
+  EXPECT_EQ(painted["faces"][1]["shows"]["colour"], "#A72920");
+  succeed({"clear", saved(), "--filter", "body", "--select", "Base", "--save", at("plain.step")});
+  const auto tree = nlohmann::json::parse(json(at("plain.step")));
+  EXPECT_TRUE(tree["bodies"][0]["own"].is_null());
+  EXPECT_EQ(tree["occurrences"][0]["occurrences"][0]["bodies"][0]["own"]["colour"], "#00FF00");
+}
+
+TEST_F(NativeCliTest, TheDialogShowsWhatAnAssemblyIsMadeOf) {
+  EXPECT_THAT(succeed({"dialog", rig(), "--filter", "body", "--select", "Base"}),
+              HasSubstr("Physical material: Steel;  Density: 7850 kg.m-3"));
+}
+
+TEST(Geometry, IsReadAndWrittenWithProgress) {
+  const TemporaryFolder folder;
+  headless::model::Design design("Rig");
+  addRigBody(design.root(), "Base", 30.0);
+  std::set<std::string> phases;
+  const auto progress = [&](const std::string& phase, double /*fraction*/) { phases.insert(phase); };
+  headless::cli::writeStep(design, folder.path() / "rig.step", progress);
+  EXPECT_THAT(phases, Contains("writing"));
+  phases.clear();
+  const auto read = headless::cli::readStep(folder.path() / "rig.step", {}, progress);
+  EXPECT_THAT(phases, ElementsAre("reading", "translating"));
+  phases.clear();
+  headless::cli::writeGlb(*read, folder.path() / "rig.glb", progress);
+  EXPECT_THAT(phases, Contains("meshing"));
 }
 
 TEST_F(NativeCliTest, TreeOfARealAssembly) {
