@@ -88,6 +88,11 @@ void CallGate::startJournal() {
   journal.start();
 }
 
+std::string CallGate::journalText() const {
+  const bool isOrderLost = addressesInJournal && addressesInJournal->isFull();
+  return journal.text() + (isOrderLost ? orderIsLost + std::string("\n") : "");
+}
+
 void CallGate::setFault(const Fault& newFault) {
   fault = newFault;
   callsBeforeFault = 0;

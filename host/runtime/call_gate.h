@@ -100,8 +100,10 @@ class CallGate {
 
   /// A second trace, of everything from here on, however often the first one is started and stopped. It is the same on
   /// every system: objects are made at rising addresses from here on, so there should be none of a design yet.
+  /// Where there were too many objects for that, the last line of the text is `orderIsLost`.
   void startJournal();
-  std::string journalText() const { return journal.text(); }
+  std::string journalText() const;
+  static constexpr const char* orderIsLost = "# too many objects: the order of the last ones is chance";
 
   /// Sets the fault, which replaces the one before.
   void setFault(const Fault& newFault);

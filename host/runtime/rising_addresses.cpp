@@ -7,11 +7,25 @@
 namespace headless {
 
 struct RisingAddresses::Block {
-  explicit Block(std::size_t size) : memory(new std::byte[size]), room(size) {}
+  explicit Block(std::size_t size) : memory(new (std::nothrow) std::byte[size]), room(memory == nullptr ? 0 : size) {}
 
   bool holds(const void* address) const {
     const std::less<const void*> isBefore;
     return !isBefore(address, memory.get()) && isBefore(address, memory.get() + room);
+  }
+
+  /// Memory for an object, or nullptr from the first one on that finds no room.
+  void* take(std::size_t size) {
+    constexpr std::size_t alignment = alignof(std::max_align_t);
+    const std::size_t rounded = (size + alignment - 1) / alignment * alignment;
+    isFull = isFull || rounded > room - used;
+    if (isFull) {
+      return nullptr;
+    }
+    void* const taken = memory.get() + used;
+    used += rounded;
+    ++objects;
+    return taken;
   }
 
   /// Forgets and deletes the block when nobody needs it any more.
@@ -23,6 +37,7 @@ struct RisingAddresses::Block {
   std::size_t used = 0;
   std::size_t objects = 0;
   bool isOpen = true;
+  bool isFull = false;
   Block* older = newest;
 
   // Nothing that would end before the last objects do, when the process ends.
@@ -52,20 +67,17 @@ RisingAddresses::~RisingAddresses() {
   Block::tidy(block);
 }
 
+bool RisingAddresses::isFull() const {
+  return block->isFull;
+}
+
 void* RisingAddresses::take(std::size_t size) {
   Block* block = Block::newest;
   while (block != nullptr && !block->isOpen) {
     block = block->older;
   }
-  constexpr std::size_t alignment = alignof(std::max_align_t);
-  const std::size_t rounded = (size + alignment - 1) / alignment * alignment;
-  if (block == nullptr || rounded > block->room - block->used) {
-    return ::operator new(size);
-  }
-  void* const memory = block->memory.get() + block->used;
-  block->used += rounded;
-  ++block->objects;
-  return memory;
+  void* const memory = block == nullptr ? nullptr : block->take(size);
+  return memory == nullptr ? ::operator new(size) : memory;
 }
 
 void RisingAddresses::giveBack(void* memory) {

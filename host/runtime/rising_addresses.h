@@ -15,13 +15,16 @@ namespace headless {
 /// goes with it, or with the last object in it. [ui thread]
 class RisingAddresses {
  public:
-  /// `room` is for all objects that are made meanwhile, as no address is given twice; what of it stays unused costs
-  /// nothing but addresses. Objects that find no room any more lie where the system puts them: a very long journal
-  /// loses its order rather than its session.
+  /// `room` is for all objects that are made meanwhile, as no address is given twice; on Linux, what of it stays unused
+  /// costs nothing but addresses. Objects that find no room any more lie where the system puts them: a very long
+  /// journal loses its order rather than its session.
   explicit RisingAddresses(std::size_t room = std::size_t{1} << 28U);
   ~RisingAddresses();
   RisingAddresses(const RisingAddresses&) = delete;
   RisingAddresses& operator=(const RisingAddresses&) = delete;
+
+  /// True once an object found no room; that one and all after it lie where the system puts them.
+  bool isFull() const;
 
   /// Memory for an object, from the system when there are no rising addresses or no room.
   static void* take(std::size_t size);

@@ -4,10 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <vector>
 
+#include "host/runtime/call_gate.h"
 #include "host/runtime/object.h"
 
 namespace tests {
@@ -101,16 +104,46 @@ TEST_F(RisingMemory, IsTheNewestOnesAndThenTheOneBefore) {
   EXPECT_LT(distance, static_cast<std::ptrdiff_t>(room));
 }
 
-TEST_F(RisingMemory, LeavesToTheSystemWhatFindsNoRoom) {
+TEST_F(RisingMemory, LeavesToTheSystemAllFromTheFirstThatFindsNoRoom) {
   Ptr<Base> second;
+  Ptr<Base> third;
   {
     const RisingAddresses rising(sizeof(LargeObject) + 500);
     const Ptr<Base> first = headless::makeObject<LargeObject>();
+    EXPECT_FALSE(rising.isFull());
     second = headless::makeObject<LargeObject>();
+    EXPECT_TRUE(rising.isFull());
+    third = headless::makeObject<SmallObject>();
     EXPECT_EQ(held(), sizeof(LargeObject) + 500);
   }
+  // Neither of them keeps the room.
   EXPECT_EQ(held(), 0U);
   EXPECT_TRUE(second->isValid());
+  EXPECT_TRUE(third->isValid());
+}
+
+TEST_F(RisingMemory, ThatCannotBeHadIsFullFromTheBeginning) {
+  const RisingAddresses rising(std::numeric_limits<std::ptrdiff_t>::max());
+  EXPECT_TRUE(headless::makeObject<SmallObject>()->isValid());
+  EXPECT_TRUE(rising.isFull());
+  EXPECT_EQ(held(), 0U);
+}
+
+class HugeObject final : public headless::HostObject<Base> {
+ public:
+  // Otherwise all of it would be filled with zeros.
+  HugeObject() {}  // NOLINT(modernize-use-equals-default,cppcoreguidelines-pro-type-member-init)
+  std::array<char, 1 << 27> text;
+};
+
+TEST_F(RisingMemory, ThatIsFullIsSaidInTheJournal) {
+  headless::CallGate gate;
+  gate.startJournal();
+  headless::makeObject<HugeObject>();
+  EXPECT_EQ(gate.journalText(), "");
+  headless::makeObject<HugeObject>();
+  headless::makeObject<HugeObject>();
+  EXPECT_EQ(gate.journalText(), std::string(headless::CallGate::orderIsLost) + "\n");
 }
 
 }  // namespace
