@@ -24,6 +24,10 @@ add_library(tintora_objects OBJECT
   shell/toolbar.cpp
   shell/users_guide.cpp
 )
+if(TINTORA_SANITIZERS)
+  # In one batch nothing could be used before another source has initialised it.
+  set_target_properties(tintora_objects PROPERTIES UNITY_BUILD OFF)
+endif()
 # Beside the programs, which look for it there.
 if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
   set(TINTORA_ADDIN_FOLDER ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/addin)
