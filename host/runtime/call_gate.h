@@ -6,10 +6,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -161,7 +163,13 @@ class CallGate {
     bool hasAnswer = false;
   };
 
+  /// Texts that live as long as the program, told apart by where they stand.
   using CallKey = std::pair<const char*, const char*>;
+  struct CallKeyHash {
+    std::size_t operator()(const CallKey& key) const {
+      return std::hash<const char*>()(key.first) ^ (std::hash<const char*>()(key.second) << 1U);
+    }
+  };
 
   template <class Result>
   static Result nothing() {
@@ -196,7 +204,7 @@ class CallGate {
   void reportDeleted(const char* className, const Traceable* object, const char* member);
 
   CallGate* previous;
-  std::map<CallKey, std::size_t> counts;
+  std::unordered_map<CallKey, std::size_t, CallKeyHash> counts;
   std::size_t calls = 0;
   int depth = 0;
   Recording trace;
