@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -122,8 +121,8 @@ TEST_F(RisingMemory, LeavesToTheSystemAllFromTheFirstThatFindsNoRoom) {
   EXPECT_TRUE(third->isValid());
 }
 
-TEST_F(RisingMemory, ThatCannotBeHadIsFullFromTheBeginning) {
-  const RisingAddresses rising(std::numeric_limits<std::ptrdiff_t>::max());
+TEST_F(RisingMemory, OfNoRoomIsFullFromTheFirstObjectOn) {
+  const RisingAddresses rising(0);
   EXPECT_TRUE(headless::makeObject<SmallObject>()->isValid());
   EXPECT_TRUE(rising.isFull());
   EXPECT_EQ(held(), 0U);
