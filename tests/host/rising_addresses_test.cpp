@@ -131,7 +131,7 @@ TEST_F(RisingMemory, OfNoRoomIsFullFromTheFirstObjectOn) {
 class HugeObject final : public headless::HostObject<Base> {
  public:
   // Otherwise all of it would be filled with zeros.
-  HugeObject() {}  // NOLINT(modernize-use-equals-default,cppcoreguidelines-pro-type-member-init)
+  HugeObject() {}
   std::array<char, 1 << 27> text;
 };
 
