@@ -297,5 +297,34 @@ TABLE_TEST(InputChangedUnderProfile, FilterRowTextsAndListsFollowTheUser) {
   EXPECT_THAT(session().picked(), ElementsAre("Base/Face1"));
 }
 
+struct RefilledList {
+  std::string library;
+  std::string filter;
+  std::string list;
+};
+
+class Refill : public AddInTest, public WithRow<RefilledList> {};
+
+TABLE(Lists, Refill, [](const auto& row) { return row.list; },
+      {{"idLibAssets", "idFilterAppearance", "idAppearanceList"},
+       {"idLibMaterials", "idFilterMaterial", "idMaterialList"}});
+
+// With every compiler, though arguments of one call may be worked out in any order.
+TABLE_TEST(Refill, AsksInOneOrder) {
+  startDialog();
+  const auto& [library, filter, list] = row();
+  const Lines reaction = reactionTo(filter, traceOf(session(), [&] { session().type(filter, "a"); }));
+  const Lines ids = idsAskedIn(reaction);
+  const Lines handedOn = {library, filter, list};
+  EXPECT_NE(std::search(ids.begin(), ids.end(), handedOn.begin(), handedOn.end()), ids.end());
+  const auto isAt = [&](const std::string& call) {
+    return std::find_if(reaction.begin(), reaction.end(),
+                        [&](const std::string& line) { return line.find("(" + call) != std::string::npos; }) -
+           reaction.begin();
+  };
+  EXPECT_LT(isAt(library + ").selectedItem()"), isAt(filter + ").value()"));
+  EXPECT_LT(static_cast<std::size_t>(isAt(filter + ").value()")), reaction.size());
+}
+
 }  // namespace
 }  // namespace tests
