@@ -313,7 +313,8 @@ TABLE(Lists, Refill, [](const auto& row) { return row.list; },
 TABLE_TEST(Refill, AsksInOneOrder) {
   startDialog();
   const auto& [library, filter, list] = row();
-  const Lines reaction = reactionTo(filter, traceOf(session(), [&] { session().type(filter, "a"); }));
+  const auto type = [&, &input = filter] { session().type(input, "a"); };
+  const Lines reaction = reactionTo(filter, traceOf(session(), type));
   const Lines ids = idsAskedIn(reaction);
   const Lines handedOn = {library, filter, list};
   EXPECT_NE(std::search(ids.begin(), ids.end(), handedOn.begin(), handedOn.end()), ids.end());
