@@ -38,22 +38,14 @@ fs::path makeTemporaryFolder() {
                 "--keep-settings.");
 }
 
-// A link is as good as a copy, since nobody writes into these files; it only works on one file system.
-void linkOrCopy(const fs::path& from, const fs::path& to) {
-  std::error_code isElsewhere;
-  fs::create_hard_link(from, to, isElsewhere);
-  if (isElsewhere) {
-    fs::copy_file(from, to);
-  }
-}
-
+// No links: Windows keeps a link to a module that another run has loaded, so that the folder would stay behind.
 void copyAddIn(const fs::path& from, const fs::path& to) {
   for (const auto& entry : fs::recursive_directory_iterator(from)) {
     const fs::path target = to / fs::relative(entry.path(), from);
     if (entry.is_directory()) {
       fs::create_directories(target);
     } else if (!isSettingsFile(entry.path())) {
-      linkOrCopy(entry.path(), target);
+      fs::copy_file(entry.path(), target);
     }
   }
 }

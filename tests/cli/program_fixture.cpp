@@ -30,7 +30,8 @@ std::string contentOf(const std::filesystem::path& file) {
   return text.str();
 }
 
-/// The folder of the add-in's copy that a run made, which only its calls tell; empty when they name no file there.
+}  // namespace
+
 std::filesystem::path addInFolderIn(const std::string& calls) {
   const std::string name = "Tintora";
   const std::size_t copy = calls.find("tintora-host-");
@@ -41,8 +42,6 @@ std::filesystem::path addInFolderIn(const std::string& calls) {
   const std::size_t begin = calls.rfind('"', copy) + 1;
   return std::filesystem::u8path(calls.substr(begin, end + name.size() - begin));
 }
-
-}  // namespace
 
 std::string ProgramTest::content(const std::string& name) const {
   return contentOf(pathOf(name));

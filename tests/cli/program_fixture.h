@@ -15,6 +15,9 @@
 
 namespace tests {
 
+/// The folder of the add-in's copy that a run made, which only its calls tell; empty when they name no file there.
+std::filesystem::path addInFolderIn(const std::string& calls);
+
 class ProgramTest : public ::testing::Test {
  protected:
   explicit ProgramTest(Program testedProgram = Program::Usual) : program(testedProgram) {}

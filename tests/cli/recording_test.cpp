@@ -1,6 +1,8 @@
 // What the program records and what it leaves behind: traces, counts, settings.
+#include <filesystem>
 #include <regex>
 
+#include "host/runtime/module.h"
 #include "tests/cli/cli_fixture.h"
 
 namespace tests {
@@ -37,6 +39,14 @@ TEST_F(RecordedRun, CallsAreCountedByName) {
   const std::string counts = run({"dialog", rig(), "--count-calls"}).err;
   EXPECT_TRUE(std::regex_search(counts, std::regex("\n[0-9]+ calls of the host\n"))) << counts;
   EXPECT_THAT(counts, HasSubstr(" 3  CommandInputs.addGroupCommandInput\n"));
+}
+
+TEST_F(RecordedRun, LeavesNoCopyOfTheAddInBehindThoughTheAddInIsInUse) {
+  const headless::Module used(std::filesystem::u8path(copyAddIn()) / "Tintora.dll");
+  succeed({"dialog", rig(), "--addin", at("addin"), "--trace", at("calls.txt")});
+  const std::filesystem::path copy = addInFolderIn(content("calls.txt"));
+  ASSERT_FALSE(copy.empty());
+  EXPECT_FALSE(std::filesystem::exists(copy.parent_path()));
 }
 
 class Settings : public CliTest {
