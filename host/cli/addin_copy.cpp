@@ -15,6 +15,8 @@ namespace {
 
 constexpr const char* settingsEnding = "_CmdSet.txt";
 constexpr int folderAttempts = 100;
+constexpr const char* remedy =
+    "Set TMPDIR (on Windows TMP) to a folder with room that can be written, or use --keep-settings.";
 
 bool isSettingsFile(const fs::path& file) {
   const std::string name = file.filename().u8string();
@@ -33,9 +35,7 @@ fs::path makeTemporaryFolder() {
       return folder;
     }
   }
-  throw Failure("No folder can be made in " + parent.u8string() +
-                " for a copy of the add-in. Set TMPDIR (on Windows TMP) to a folder that can be written, or use "
-                "--keep-settings.");
+  throw Failure("No folder can be made in " + parent.u8string() + " for a copy of the add-in. " + remedy);
 }
 
 // No links: Windows keeps a link to a module that another run has loaded, so that the folder would stay behind.
@@ -77,7 +77,7 @@ AddInCopy::AddInCopy(const fs::path& folder, Settings settings) : used(fs::absol
   } catch (const fs::filesystem_error& error) {
     std::error_code ignored;
     fs::remove_all(temporary, ignored);
-    throw Failure("The add-in cannot be copied for this run: " + std::string(error.what()));
+    throw Failure("The add-in cannot be copied for this run: " + std::string(error.what()) + ". " + remedy);
   }
 }
 

@@ -86,9 +86,9 @@ TABLE_TEST(TraceOnAFullDisk, IsAFailureAndNothingIsSaved) {
 
 class DemoOnAFullDisk : public NativeCliTest {
  protected:
-  /// Nothing larger than 16 kB can be written, and so neither a trace nor an assembly.
+  /// Nothing larger than 16 kB can be written, and so neither a trace nor an assembly, nor a copy of the add-in.
   Outcome play(const std::string& assembly, std::vector<std::string> outputs) {
-    outputs.insert(outputs.begin(), {"demo", assembly, "--addin", addin, "--quiet"});
+    outputs.insert(outputs.begin(), {"demo", assembly, "--addin", addin, "--keep-settings", "--quiet"});
     const FileSizeLimit limit(16384);
     return run(outputs);
   }
@@ -112,6 +112,15 @@ TEST_F(DemoOnAFullDisk, IsAFailureThatNamesTheAssemblyAsItWasAskedFor) {
   EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + saved() +
                              "\": the disk refused the data. Free some space or choose another folder.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
+}
+
+TEST_F(NativeCliTest, ADiskTooFullForACopyOfTheAddInIsAFailureThatTellsHowToDoWithoutOne) {
+  const std::string addIn = copyAddIn();
+  const FileSizeLimit limit(16384);
+  const std::string said = fail(1, {"dialog", rig(), "--addin", addIn});
+  EXPECT_THAT(said, AllOf(HasSubstr("The add-in cannot be copied for this run: "), HasSubstr(addIn + "/Tintora.dll"),
+                          HasSubstr("]. Set TMPDIR (on Windows TMP) to a folder with room that can be written, or "
+                                    "use --keep-settings.\n")));
 }
 
 }  // namespace
