@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "host/libraries/library_file.h"
+#include "shell/globals.h"
 #include "tests/dialog/dialog_fixture.h"
 #include "tests/support/linked_module_path.h"
 #include "tests/support/tables.h"
