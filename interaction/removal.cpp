@@ -102,7 +102,9 @@ void clearBodiesAndFaces(const Ptr<fusion::Occurrence>& occurrence) {
 void removeAssignedAppearance() {
   // The host may clear the selection at the first change.
   for (const auto& entity : selectedEntities()) {
-    removeFrom(entity);
+    if (entity) {
+      removeFrom(entity);
+    }
   }
 }
 

@@ -105,7 +105,8 @@ TABLE(Refused, RaisingEndOfBuild, nameOf,
        EarlyEnd{"Command.inputChanged", 1, 0}, EarlyEnd{"Application.materialLibraries", 1, 6},
        EarlyEnd{"Application.materialLibraries", 2, 7}, EarlyEnd{"MaterialLibrary.appearances", 1, 7},
        EarlyEnd{"Application.materialLibraries", 3, 13}, EarlyEnd{"Application.materialLibraries", 4, 14},
-       EarlyEnd{"MaterialLibrary.materials", 1, 14},
+       EarlyEnd{"MaterialLibrary.materials", 1, 14}, EarlyEnd{"Appearances.item", 1, 7},
+       EarlyEnd{"Materials.item", 1, 14},
        // The remembered colour library, and the first material library when its name is asked for.
        EarlyEnd{"ListItems.item", 1, 6}, EarlyEnd{"ListItems.item", 4, 14},
        EarlyEnd{"ButtonRowCommandInput.selectedItem", 1, 16}});
@@ -114,6 +115,26 @@ TABLE_TEST(RaisingEndOfBuild, KeepsTheInputsBeforeItToo) {
   buildUntilRefused();
   EXPECT_THAT(takeErrors(), ElementsAre(StartsWith("commandCreated(idAssetsMatMng): std::exception:")));
   expectUnfinishedDialog();
+}
+
+/// A change of the dialog that the host refuses while it is built.
+class RefusedChanges : public DialogTest, public WithRow<std::string> {};
+
+TABLE(Calls, RefusedChanges, byText,
+      {"SelectionCommandInput.setSelectionLimits", "ListItems.add", "Command.isExecutedWhenPreEmpted=",
+       "Command.isOKButtonVisible=", "Command.okButtonText=", "Command.cancelButtonText=",
+       "SelectionCommandInput.clearSelectionFilter", "SelectionCommandInput.addSelectionFilter",
+       "SelectionCommandInput.clearSelection", "BoolValueCommandInput.isEnabled="});
+
+TABLE_TEST(RefusedChanges, KeepNothingElseFromBeingBuilt) {
+  start();
+  host().gate().setFault({1, FaultAnswer::Nothing, row()});
+  pressMainButton();
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_EQ(inputIds(), dialogInputIds);
+  EXPECT_EQ(session().dialog().width, 425);
+  EXPECT_THAT(shown("idSelection"), StartsWith("Select "));
+  EXPECT_EQ(headless::desktop::cursor().shape, headless::desktop::CursorShape::Arrow);
 }
 
 }  // namespace

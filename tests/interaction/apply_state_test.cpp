@@ -9,6 +9,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 
 constexpr const char* nothingFound = "nothing found";
 
@@ -124,6 +125,17 @@ TEST_F(ApplyButton, IsDisabledByAFilterThatFindsNothingUntilItIsEmptied) {
   EXPECT_FALSE(isEnabled("idBtnApply"));
   session().type("idFilterAppearance", "");
   EXPECT_TRUE(isEnabled("idBtnApply"));
+}
+
+// A library without materials leaves its list without any item when the dialog is built: there is none to look at.
+TEST_F(ApplyButton, IsDisabledByAFilterThatFindsNothingWhateverTheMaterialListLacks) {
+  removeLibraries("Materials");
+  addMaterialLibrary("Empty.adsklib", "Empty materials", {});
+  startDialog();
+  ASSERT_THAT(itemsOf("idMaterialList"), IsEmpty());
+  session().type("idFilterAppearance", "~");
+  EXPECT_THAT(itemsOf("idAppearanceList"), ElementsAre(nothingFound));
+  EXPECT_FALSE(isEnabled("idBtnApply"));
 }
 
 TEST_F(ApplyButton, StaysDisabledAfterTheAppearanceFilterIsEmptiedWhileNoMaterialIsFound) {

@@ -272,6 +272,15 @@ TEST_F(AppearanceAssignment, OfTheRootComponentExplainsWhyNothingHappens) {
   EXPECT_THAT(history().undoSteps(), IsEmpty());
 }
 
+TEST_F(AppearanceAssignment, OfTheRootComponentExplainsItEveryTime) {
+  start();
+  openForAppearance();
+  pickComponent(session(), design().root());
+  apply();
+  raiseChangeOf(session(), applyButton);
+  EXPECT_EQ(session().messageBoxes().size(), 2U);
+}
+
 TEST_F(AppearanceAssignment, OfAnotherComponentDoesNothingAtAll) {
   start();
   body("Bolt", "Head").appearance = look("Body paint");

@@ -405,6 +405,27 @@ TEST_F(Assignment, WithoutItsMaterialLibraryLeavesTheMaterialAndStillClears) {
   EXPECT_EQ(ownLook(body("Machine", "Base")), red);
 }
 
+TEST_F(Assignment, WithoutItsMaterialLibraryIsTheSameForComponents) {
+  openAndChoose();
+  assignMaterialsOnly(session());
+  host().application()->materialLibraries()->itemByName("Metals")->unload();
+  pickAll(session(), "Component", {"Bolt:2"});
+  EXPECT_EQ(editsOfApply().back(), "Component(Bolt).material=(none)");
+  pickComponent(session(), design().root());
+  const Lines edits = editsIn(traceOf(session(), [&] { raiseChangeOf(session(), applyButton); }));
+  EXPECT_EQ(edits.back(), "Component(Machine).material=(none)");
+}
+
+TEST_F(Assignment, WithoutItsAppearanceLibraryClearsOccurrencesAndFacesToo) {
+  openAndChoose();
+  assignAppearancesOnly(session());
+  host().application()->materialLibraries()->itemByName("RAL_COLORS")->unload();
+  pickAll(session(), "Component", {"Bolt:2"});
+  EXPECT_THAT(editsOfApply(), ElementsAre(lookCleared("Occurrence(Bolt:2)")));
+  pickAll(session(), "Face", {"Base/Face1"});
+  EXPECT_THAT(editsOfApply(), ElementsAre(lookCleared("BRepFace(Base)")));
+}
+
 TEST_F(Assignment, WithoutItsAppearanceLibraryAssignsNoAppearance) {
   openAndChoose();
   assignAppearancesOnly(session());
@@ -458,6 +479,36 @@ TEST_F(Assignment, OfAListThatShowsNothingClearsTheLook) {
   raiseChangeOf(session(), "idKeepAppearance");
   ASSERT_TRUE(isEnabled("idBtnApply"));
   EXPECT_THAT(editsOfApply(), Contains(lookCleared("BRepBody(Base)")).Times(2));
+}
+
+TEST_F(Assignment, LooksUpItsChoicesOnceForAllPicks) {
+  openAndChoose();
+  pickAll(session(), "Body", {"Bolt:2/Head", "Base"});
+  const Lines reaction = reactionTo(applyButton, traceOf(session(), [&] { session().click(applyButton); }));
+  EXPECT_EQ(containing("Appearances.itemByName(", reaction).size(), 1U);
+  EXPECT_EQ(containing("Materials.itemByName(", reaction).size(), 1U);
+}
+
+/// Something that Apply needs and that the host does not return.
+struct NeededObject {
+  const char* name;
+  const char* call;
+};
+
+class NeededObjects : public Assignment, public WithRow<NeededObject> {};
+
+TABLE(Links, NeededObjects, byName,
+      {{"Pick", "Selection.entity"}, {"Materials", "MaterialLibrary.materials"}, {"Occurrence", "Occurrences.item"}});
+
+TABLE_TEST(NeededObjects, EndApplyBeforeAnythingIsAssigned) {
+  openAndChoose();
+  pickComponent(session(), design().root());
+  host().gate().setFault({1, FaultAnswer::Nothing, row().call});
+  const Lines trace = traceOf(session(), [&] { raiseChangeOf(session(), applyButton); });
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(takeErrorKinds(), ElementsAre("std::exception"));
+  EXPECT_THAT(editsIn(trace), IsEmpty());
+  EXPECT_THAT(containing("doExecute", trace), IsEmpty());
 }
 
 class AssignmentUnderProfile : public AddInUnderProfile {};

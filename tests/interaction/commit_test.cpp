@@ -196,5 +196,15 @@ TABLE_TEST(CommitUnderProfile, ApplyAndRemoveAreOneUndoStepEach) {
   EXPECT_EQ(baseLook(), "");
 }
 
+TABLE_TEST(Commit, WithoutACommandIsAnErrorWithApplyDisabled) {
+  openWithBasePicked();
+  host().gate().setFault({1, FaultAnswer::Nothing, "CommandInputs.command"});
+  session().click(button());
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(takeErrors(), ElementsAre(HasSubstr("std::exception")));
+  EXPECT_FALSE(isEnabled(applyButton));
+  EXPECT_THAT(history().undoSteps(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace tests

@@ -7,10 +7,13 @@ namespace tests {
 namespace {
 
 using headless::FaultAnswer;
+using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 /// Every kind of object carries a look of its own, at every depth.
 template <class Fixture>
@@ -417,6 +420,58 @@ TABLE_TEST(RemovalUnderProfile, OfAFaceLeavesItsLook) {
   session().click(removeButton);
   EXPECT_EQ(painted(), everything);
   EXPECT_TRUE(session().isDialogOpen());
+}
+
+TEST_F(Removal, PassesOverAPickThatTheHostDoesNotReturn) {
+  openPainted();
+  pickAll(session(), "Body", {"Base", "Bolt:2/Head"});
+  host().gate().setFault({1, FaultAnswer::Nothing, "Selection.entity"});
+  EXPECT_THAT(editsOfRemove(),
+              AllOf(Contains(lookCleared("BRepBody(Bolt:2+Head)")), Not(Contains(lookCleared("BRepBody(Base)")))));
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_EQ(history().undoSteps().size(), 1U);
+}
+
+TEST_F(Removal, OfTheRootComponentPassesOverAnOccurrenceThatTheHostDoesNotReturn) {
+  openPainted();
+  pickComponent(session(), design().root());
+  host().gate().setFault({1, FaultAnswer::Nothing, "Occurrences.item"});
+  raiseChangeOf(session(), removeButton);
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(painted(), ElementsAre("Frame:1", "Frame:1+Plate:1", "Frame:1+Bolt:1", "Base", "Base#2"));
+}
+
+/// A look that the host refuses to take away.
+struct RefusedRemoval {
+  const char* name;
+  const char* call;
+  const char* filter;
+  const char* path;
+};
+
+class RefusedRemovals : public Removal, public WithRow<RefusedRemoval> {
+ protected:
+  Lines editsOfRemoving(bool isFirstRefused) {
+    openPainted();
+    pickAll(session(), row().filter, {row().path});
+    if (isFirstRefused) {
+      host().gate().setFault({1, FaultAnswer::Nothing, row().call});
+    }
+    const Lines edits = editsOfRemove();
+    EXPECT_EQ(host().gate().faultStruck(), isFirstRefused);
+    finish();
+    return edits;
+  }
+};
+
+TABLE(Looks, RefusedRemovals, byName,
+      {{"Body", "BRepBody.appearance=", "Body", "Bolt:2/Shank"},
+       {"Face", "BRepFace.appearance=", "Body", "Bolt:2/Shank"},
+       {"Occurrence", "Occurrence.appearance=", "Component", "Frame:1"}});
+
+TABLE_TEST(RefusedRemovals, KeepNothingElseFromBeingCleared) {
+  const Lines edits = editsOfRemoving(true);
+  EXPECT_EQ(edits, editsOfRemoving(false));
 }
 
 }  // namespace

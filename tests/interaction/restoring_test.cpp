@@ -11,6 +11,7 @@ using adsk::core::DialogYes;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
 using ::testing::UnorderedElementsAreArray;
 
 /// The bolt "Bolt:2" carries looks on the occurrence, on a body and on a face.
@@ -219,6 +220,20 @@ TABLE_TEST(RestoringUnderProfile, PutsLooksBackOverTheAssignedAppearance) {
   EXPECT_EQ(ownLook(bolt()), "Bolt paint");
   EXPECT_EQ(ownLook(shank()), "Shank paint");
   EXPECT_EQ(ownLook(headFace()), "Head paint");
+}
+
+// Apply clears both bodies; the third call is the first look that is put back.
+TEST_F(Restoring, GoesOnAfterALookThatTheHostRefuses) {
+  openWithPaintedBolt();
+  body("Bolt", "Head").appearance = look("Head paint");
+  assignMaterialsOnly(session());
+  pickAll(session(), "Body", {"Bolt:2/Shank", "Bolt:2/Head"});
+  host().gate().setFault({3, headless::FaultAnswer::Nothing, "BRepBody.appearance="});
+  const Lines edits = editsOfApply();
+  EXPECT_TRUE(host().gate().faultStruck());
+  EXPECT_THAT(edits, IsSupersetOf({lookSet("BRepBody(Bolt:2+Shank)", "Shank paint"),
+                                   lookSet("BRepBody(Bolt:2+Head)", "Head paint"),
+                                   lookSet("BRepFace(Bolt:2+Head)", "Head paint")}));
 }
 
 }  // namespace
