@@ -116,7 +116,9 @@ TEST(ClassTexts, HaveAnAddressOfTheirOwn) {
 
 class Objects : public HostDialogTest {
  protected:
-  Ptr<Component> root() const { return Ptr<Design>(Application::get()->activeProduct())->rootComponent(); }
+  Ptr<Component> root() const {
+    return Ptr<adsk::fusion::Design>(Application::get()->activeProduct())->rootComponent();
+  }
 
   /// One living object of each kind that a client meets, by the class that it is of.
   std::vector<std::pair<const char*, Ptr<Base>>> all() {
@@ -165,7 +167,7 @@ class Objects : public HostDialogTest {
         {StringValueCommandInput::classType(), input<CommandInput>("line")},
         {BoolValueCommandInput::classType(), input<CommandInput>("button")},
         {MaterialLibraries::classType(), application->materialLibraries()},
-        {Design::classType(), application->activeProduct()},
+        {adsk::fusion::Design::classType(), application->activeProduct()},
         {Component::classType(), root()},
         {Occurrences::classType(), root()->occurrences()},
         {OccurrenceList::classType(), root()->allOccurrences()},
@@ -210,7 +212,7 @@ TEST_F(Objects, AnswerForAllTheirBaseClasses) {
   const Ptr<Base> control = panel()->controls()->item(0);
   EXPECT_TRUE(Ptr<ToolbarControl>(control) && Ptr<CommandControl>(control));
   const Ptr<Base> design = Application::get()->activeProduct();
-  EXPECT_TRUE(Ptr<Product>(design) && Ptr<Design>(design));
+  EXPECT_TRUE(Ptr<Product>(design) && Ptr<adsk::fusion::Design>(design));
   const Ptr<Base> event = dialog->command->execute();
   EXPECT_TRUE(Ptr<Event>(event) && Ptr<CommandEvent>(event));
   EXPECT_FALSE(Ptr<InputChangedEvent>(event));
