@@ -225,7 +225,7 @@ void setUpFrame(const Ptr<core::Command>& command) {
 void buildCommandDialog(const Ptr<core::CommandCreatedEventArgs>& eventArgs, core::CommandEventHandler& executeHandler,
                         core::InputChangedEventHandler& inputChangedHandler) {
   void* const previousCursor = showWaitCursor();
-  const EchoGuard guard(Echoes::All);
+  const EchoGuard guard(Echoes::all);
   const Ptr<core::Command> command = eventArgs->command();
   commandInputs = command->commandInputs();
   if (!commandInputs) {

@@ -120,7 +120,7 @@ void fillItemList(const std::string& libraryId, const std::string& filterId, con
   if (!library || !filter || !list) {
     return;
   }
-  // One call after the other, as operands and arguments would be worked out in an order of the compiler's choice.
+  // Each call in a statement of its own: C++ leaves open in which order operands and arguments are worked out.
   NameSequence names;
   const std::string id = library->id();
   if (id == libAssetsInput->id()) {

@@ -19,7 +19,8 @@ constexpr const char* materialsDiffer = "Physical material: Various";
 
 using Describe = std::string (*)(const Ptr<core::Base>&);
 
-/// The text that all selected entities have in common, or `textIfDifferent` as soon as one differs from the first.
+/// The text that all selected entities have in common, or `textIfDifferent` as soon as one differs from the first;
+/// empty when the host returns none of them.
 std::string commonText(Describe describe, const char* textIfDifferent) {
   std::optional<std::string> firstText;
   const std::size_t count = selectionInput->selectionCount();

@@ -37,7 +37,7 @@ void clearText(const Ptr<core::StringValueCommandInput>& text) {
   }
 }
 
-// Arguments would be asked for in an order of the compiler's choice.
+// Each id in a statement of its own: C++ leaves open in which order the arguments of a call are worked out.
 void refillAppearanceList() {
   const std::string libraryId = libAssetsInput->id();
   const std::string filterId = filterAppearanceInput->id();

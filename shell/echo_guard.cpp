@@ -10,16 +10,16 @@ int selectionGuardCount = 0;
 
 }  // namespace
 
-EchoGuard::EchoGuard(Echoes echoes) : kind(echoes) {
+EchoGuard::EchoGuard(Echoes echoes) : kind_(echoes) {
   ++guardCount;
-  if (kind == Echoes::All) {
+  if (kind_ == Echoes::all) {
     ++selectionGuardCount;
   }
 }
 
 EchoGuard::~EchoGuard() {
   --guardCount;
-  if (kind == Echoes::All) {
+  if (kind_ == Echoes::all) {
     --selectionGuardCount;
   }
 }

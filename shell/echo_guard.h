@@ -7,12 +7,12 @@ namespace tintora {
 
 /// What is taken for an echo: while inputs are being changed, a change of the selection is real all the same; while the
 /// dialog is being built, nobody can have changed anything yet, and not all inputs are there to be asked.
-enum class Echoes { AllButSelection, All };
+enum class Echoes { allButSelection, all };
 
 /// Lives as long as the add-in is changing inputs. Guards may nest.
 class EchoGuard {
  public:
-  explicit EchoGuard(Echoes echoes = Echoes::AllButSelection);
+  explicit EchoGuard(Echoes echoes = Echoes::allButSelection);
   ~EchoGuard();
   EchoGuard(const EchoGuard&) = delete;
   EchoGuard& operator=(const EchoGuard&) = delete;
@@ -22,7 +22,7 @@ class EchoGuard {
   static bool takesSelection();
 
  private:
-  Echoes kind;
+  Echoes kind_;
 };
 
 }  // namespace tintora

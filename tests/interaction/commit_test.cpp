@@ -67,6 +67,7 @@ TABLE_TEST(Commit, ExecutesWithoutEndingAsItsLastCall) {
                                 HasSubstr("InputChangedEventArgs.inputs()"), HasSubstr(".command()"),
                                 "Command(idAssetsMatMng).doExecute(false) -> true"));
   EXPECT_EQ(containing("doExecute", reaction).size(), 1U);
+  EXPECT_THAT(containing("isEnabled()", reaction), IsEmpty());
 }
 
 TABLE_TEST(Commit, MakesOneUndoStepThatCanBeTakenBackAndDoneAgain) {

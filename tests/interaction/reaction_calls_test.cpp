@@ -1,4 +1,8 @@
 // The host calls of whole reactions, to the last one and in their order.
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
 #include "tests/interaction/reactions.h"
 #include "tests/support/addin_fixture.h"
 
@@ -207,6 +211,17 @@ TEST_F(CallsOf, ATypedLetter) {
       R"(ListItem(idMaterialList: Steel 37).name() -> "Steel 37")",
       "BoolValueCommandInput(idBtnApply).isEnabled=(true) -> true"};
   EXPECT_EQ(callsOf("idFilterAppearance", [&] { session().type("idFilterAppearance", "3"); }), expected);
+}
+
+TEST_F(CallsOf, APickReachChildrenBeforeBodies) {
+  session().choose("idFilterSelect", "Component");
+  const Lines calls = callsOf("idSelection", [&] { session().pick("Frame:1"); });
+  const Lines walks = {"Occurrence(Frame:1).childOccurrences() -> OccurrenceList",
+                       "Occurrence(Frame:1).bRepBodies() -> BRepBodies"};
+  Lines found;
+  std::copy_if(calls.begin(), calls.end(), std::back_inserter(found),
+               [&](const std::string& call) { return std::find(walks.begin(), walks.end(), call) != walks.end(); });
+  EXPECT_EQ(found, walks);
 }
 
 }  // namespace
