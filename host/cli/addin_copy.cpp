@@ -1,6 +1,5 @@
 #include "host/cli/addin_copy.h"
 
-#include <random>
 #include <string>
 #include <system_error>
 
@@ -14,7 +13,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* settingsEnding = "_CmdSet.txt";
-constexpr int folderAttempts = 100;
 constexpr const char* remedy =
     "Set TMPDIR (on Windows TMP) to a folder with room that can be written, or use --keep-settings.";
 
@@ -22,20 +20,6 @@ bool isSettingsFile(const fs::path& file) {
   const std::string name = file.filename().u8string();
   const std::string ending = settingsEnding;
   return name.size() >= ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
-}
-
-fs::path makeTemporaryFolder() {
-  const fs::path parent = fs::temp_directory_path();
-  std::random_device random;
-  std::error_code failed;
-  for (int attempt = 0; attempt < folderAttempts && !failed; ++attempt) {
-    fs::path folder = parent / ("tintora-host-" + std::to_string(random()));
-    if (fs::create_directory(folder, failed)) {
-      fs::permissions(folder, fs::perms::owner_all, failed);
-      return folder;
-    }
-  }
-  throw Failure("No folder can be made in " + parent.u8string() + " for a copy of the add-in. " + remedy);
 }
 
 // No links: Windows keeps a link to a module that another run has loaded, so that the folder would stay behind.
@@ -68,23 +52,14 @@ AddInCopy::AddInCopy(const fs::path& folder, Settings settings) : used(fs::absol
   if (settings == Settings::Kept) {
     return;
   }
-  temporary = makeTemporaryFolder();
+  const fs::path source = used;
   try {
-    const fs::path source = used;
-    used = temporary / "Tintora";
+    temporary.emplace(fs::temp_directory_path(), "tintora-host-", "");
+    used = temporary->path() / "Tintora";
     fs::create_directory(used);
     copyAddIn(source, used);
   } catch (const fs::filesystem_error& error) {
-    std::error_code ignored;
-    fs::remove_all(temporary, ignored);
     throw Failure("The add-in cannot be copied for this run: " + std::string(error.what()) + ". " + remedy);
-  }
-}
-
-AddInCopy::~AddInCopy() {
-  std::error_code ignored;
-  if (!temporary.empty()) {
-    fs::remove_all(temporary, ignored);
   }
 }
 

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+
+#include "host/files/scratch_folder.h"
 
 namespace headless::cli {
 
@@ -19,15 +22,12 @@ class AddInCopy {
 
   /// Raises Failure when `folder` holds no add-in or cannot be copied.
   AddInCopy(const std::filesystem::path& folder, Settings settings);
-  AddInCopy(const AddInCopy&) = delete;
-  AddInCopy& operator=(const AddInCopy&) = delete;
-  ~AddInCopy();
 
   const std::filesystem::path& folder() const { return used; }
   std::filesystem::path module() const { return used / moduleFileName; }
 
  private:
-  std::filesystem::path temporary;
+  std::optional<files::ScratchFolder> temporary;
   std::filesystem::path used;
 };
 

@@ -1,6 +1,5 @@
 #include "host/files/atomic_file.h"
 
-#include <random>
 #include <system_error>
 #include <utility>
 
@@ -16,10 +15,16 @@ fs::path folderOf(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
-/// A folder name that nobody else uses at the same time.
-std::string temporaryName(const fs::path& target) {
-  std::random_device random;
-  return "." + target.filename().u8string() + "." + std::to_string(random()) + ".part";
+/// Beside the file, named without it: the name of the file may already be as long as the file system allows.
+ScratchFolder scratchFolderBeside(const fs::path& file) {
+  checkDestination(file);
+  const fs::path parent = folderOf(file);
+  try {
+    return {parent, ".tintora-", ".part"};
+  } catch (const fs::filesystem_error& error) {
+    failToWrite(file, "the folder \"" + parent.u8string() + "\" cannot be written (" + error.code().message() + ")",
+                "Choose another folder or change its permissions.");
+  }
 }
 
 }  // namespace
@@ -39,22 +44,10 @@ void checkDestination(const fs::path& file) {
   }
 }
 
-AtomicFile::AtomicFile(fs::path destination) : target(std::move(destination)) {
-  checkDestination(target);
-  const fs::path parent = folderOf(target);
-  std::error_code error;
-  folder = parent / fs::u8path(temporaryName(target));
-  if (!fs::create_directory(folder, error)) {
-    failToWrite(target, "the folder \"" + parent.u8string() + "\" cannot be written (" + error.message() + ")",
-                "Choose another folder or change its permissions.");
-  }
-  temporary = folder / target.filename();
-}
-
-AtomicFile::~AtomicFile() {
-  std::error_code ignored;
-  fs::remove_all(folder, ignored);
-}
+AtomicFile::AtomicFile(fs::path destination)
+    : target(std::move(destination)),
+      folder(scratchFolderBeside(target)),
+      temporary(folder.path() / target.filename()) {}
 
 void AtomicFile::commit() {
   std::error_code error;

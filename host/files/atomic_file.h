@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "host/files/scratch_folder.h"
+
 namespace headless::files {
 
 /// Raises Error: what cannot be written, why, and what would help.
@@ -20,9 +22,6 @@ class AtomicFile {
   /// Raises Error when the destination's folder does not exist or cannot be written, or when the destination is a
   /// folder.
   explicit AtomicFile(std::filesystem::path destination);
-  ~AtomicFile();
-  AtomicFile(const AtomicFile&) = delete;
-  AtomicFile& operator=(const AtomicFile&) = delete;
 
   /// Where to write; same file name as the destination.
   const std::filesystem::path& path() const { return temporary; }
@@ -32,7 +31,7 @@ class AtomicFile {
 
  private:
   std::filesystem::path target;
-  std::filesystem::path folder;
+  ScratchFolder folder;
   std::filesystem::path temporary;
 };
 

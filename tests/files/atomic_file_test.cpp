@@ -78,6 +78,14 @@ TEST_F(AtomicFileTest, RefusesFoldersAndMissingFolders) {
 TEST_F(AtomicFileTest, RefusesFoldersThatCannotBeWritten) {
   EXPECT_THROW(AtomicFile("/proc/self/out.txt"), Error);
 }
+
+TEST_F(AtomicFileTest, MayHaveTheLongestNameThatTheFileSystemAllows) {
+  target = folder.path() / std::string(255, 'a');
+  AtomicFile file(target);
+  fillFile(file.path(), "new");
+  file.commit();
+  EXPECT_EQ(contentOf(target), "new");
+}
 #endif
 
 TEST_F(AtomicFileTest, SaysWhenNothingWasWritten) {
