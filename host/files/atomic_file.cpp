@@ -1,7 +1,6 @@
 #include "host/files/atomic_file.h"
 
 #include <system_error>
-#include <utility>
 
 #include "host/files/error.h"
 
@@ -11,13 +10,29 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// As many as Linux follows in a path.
+constexpr int linksFollowed = 40;
+
 fs::path folderOf(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
+/// The file that a link stands for, over several steps if need be; there need not be such a file yet.
+fs::path withoutLinks(fs::path file) {
+  std::error_code error;
+  for (int followed = 0; followed < linksFollowed && fs::is_symlink(file, error); ++followed) {
+    file = folderOf(file) / fs::read_symlink(file, error);
+  }
+  return file;
+}
+
+fs::path checkedTarget(const fs::path& destination) {
+  checkDestination(destination);
+  return withoutLinks(destination);
+}
+
 /// Beside the file, named without it: the name of the file may already be as long as the file system allows.
 ScratchFolder scratchFolderBeside(const fs::path& file) {
-  checkDestination(file);
   const fs::path parent = folderOf(file);
   try {
     return {parent, ".tintora-", ".part"};
@@ -35,24 +50,38 @@ void failToWrite(const fs::path& file, const std::string& why, const std::string
 
 void checkDestination(const fs::path& file) {
   std::error_code error;
-  if (!file.has_filename() || fs::is_directory(file, error)) {
+  const fs::file_status status = fs::status(file, error);
+  if (!file.has_filename() || fs::is_directory(status)) {
     failToWrite(file, "that is a folder", "Give a file name.");
   }
-  if (!fs::is_directory(folderOf(file), error)) {
-    failToWrite(file, "the folder \"" + folderOf(file).u8string() + "\" does not exist",
-                "Create it or choose another folder.");
+  if (!fs::status_known(status)) {
+    failToWrite(file, error.message(), "Choose another file.");
+  }
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    failToWrite(file, "that is a device, a pipe or a socket", "Give the name of a file.");
+  }
+  const fs::path folder = folderOf(withoutLinks(file));
+  if (!fs::is_directory(folder, error)) {
+    failToWrite(file, "the folder \"" + folder.u8string() + "\" does not exist", "Create it or choose another folder.");
   }
 }
 
-AtomicFile::AtomicFile(fs::path destination)
-    : target(std::move(destination)),
+AtomicFile::AtomicFile(const fs::path& destination)
+    : target(checkedTarget(destination)),
       folder(scratchFolderBeside(target)),
-      temporary(folder.path() / target.filename()) {}
+      temporary(folder.path() / destination.filename()) {}
 
 void AtomicFile::commit() {
   std::error_code error;
+  const fs::file_status earlier = fs::status(target, error);
+  if (fs::exists(earlier)) {
+    fs::permissions(temporary, earlier.permissions(), error);
+  }
   fs::rename(temporary, target, error);
   if (error) {
+    // Windows removes nothing that is read-only.
+    std::error_code ignored;
+    fs::permissions(temporary, fs::perms::owner_write, fs::perm_options::add, ignored);
     failToWrite(target, "the finished file cannot be put in place (" + error.message() + ")",
                 "Close programs that have the file open and check its permissions.");
   }

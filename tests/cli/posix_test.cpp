@@ -1,5 +1,6 @@
 // What tests can have on POSIX systems only: a terminal, links, a limit to the size of files.
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 
@@ -121,6 +122,17 @@ TEST_F(NativeCliTest, ADiskTooFullForACopyOfTheAddInIsAFailureThatTellsHowToDoWi
   EXPECT_THAT(said, AllOf(HasSubstr("The add-in cannot be copied for this run: "), HasSubstr(addIn + "/Tintora.dll"),
                           HasSubstr("]. Set TMPDIR (on Windows TMP) to a folder with room that can be written, or "
                                     "use --keep-settings.\n")));
+}
+
+TEST_F(NativeCliTest, APipeIsNoPlaceForAnOutput) {
+  const std::string pipe = at(assemblyName("pipe"));
+  ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"dialog", rig(), "--trace", pipe}, {"convert", rig(), pipe}}) {
+    EXPECT_EQ(fail(1, arguments), "tintora-host: Cannot write \"" + pipe +
+                                      "\": that is a device, a pipe or a socket. Give the name of a file.\n");
+  }
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 }  // namespace

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -85,6 +89,46 @@ TEST_F(AtomicFileTest, MayHaveTheLongestNameThatTheFileSystemAllows) {
   fillFile(file.path(), "new");
   file.commit();
   EXPECT_EQ(contentOf(target), "new");
+}
+
+TEST_F(AtomicFileTest, RefusesWhatIsNoFile) {
+  ASSERT_EQ(mkfifo(target.c_str(), S_IRUSR | S_IWUSR), 0);
+  EXPECT_THROW(checkDestination(target), Error);
+  EXPECT_THROW(AtomicFile{target}, Error);
+  EXPECT_TRUE(std::filesystem::is_fifo(target));
+}
+
+TEST_F(AtomicFileTest, RefusesNamesThatLeadNowhere) {
+  std::filesystem::create_symlink("loop.txt", folder.path() / "loop.txt");
+  EXPECT_THROW(checkDestination(folder.path() / "loop.txt"), Error);
+  EXPECT_THROW(checkDestination(folder.path() / std::string(256, 'a')), Error);
+  std::filesystem::create_symlink("none/out.txt", target);
+  EXPECT_THROW(checkDestination(target), Error);
+}
+
+TEST_F(AtomicFileTest, WritesTheFileThatALinkStandsFor) {
+  std::filesystem::create_directory(folder.path() / "real");
+  std::filesystem::create_symlink("real/first.txt", target);
+  std::filesystem::create_symlink("second.txt", folder.path() / "real/first.txt");
+  for (const char* content : {"new", "newer"}) {
+    AtomicFile file(target);
+    fillFile(file.path(), content);
+    file.commit();
+    EXPECT_TRUE(std::filesystem::is_symlink(target));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "real/first.txt"));
+    EXPECT_EQ(contentOf(folder.path() / "real/second.txt"), content);
+  }
+}
+
+TEST_F(AtomicFileTest, KeepsThePermissionsOfTheFileThatItReplaces) {
+  fillFile(target, "old");
+  const auto ownerAlone = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+  std::filesystem::permissions(target, ownerAlone);
+  AtomicFile file(target);
+  fillFile(file.path(), "new");
+  file.commit();
+  EXPECT_EQ(contentOf(target), "new");
+  EXPECT_EQ(std::filesystem::status(target).permissions(), ownerAlone);
 }
 #endif
 
