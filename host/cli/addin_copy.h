@@ -27,6 +27,8 @@ class AddInCopy {
   std::filesystem::path module() const { return used / moduleFileName; }
 
  private:
+  void copy();
+
   std::optional<files::ScratchFolder> temporary;
   std::filesystem::path used;
 };

@@ -3,6 +3,8 @@
 #include <sys/stat.h>
 
 #include <csignal>
+#include <cstdlib>
+#include <optional>
 
 #include "tests/cli/native_fixture.h"
 #include "tests/step/step_files.h"
@@ -122,6 +124,85 @@ TEST_F(NativeCliTest, ADiskTooFullForACopyOfTheAddInIsAFailureThatTellsHowToDoWi
   EXPECT_THAT(said, AllOf(HasSubstr("The add-in cannot be copied for this run: "), HasSubstr(addIn + "/Tintora.dll"),
                           HasSubstr("]. Set TMPDIR (on Windows TMP) to a folder with room that can be written, or "
                                     "use --keep-settings.\n")));
+}
+
+/// While one lives, programs that are started have a variable with that value in their environment.
+class EnvironmentVariable {
+ public:
+  EnvironmentVariable(const char* variable, const std::string& value) : name(variable) {
+    if (const char* earlier = std::getenv(name)) {
+      before = earlier;
+    }
+    setenv(name, value.c_str(), 1);
+  }
+  EnvironmentVariable(const EnvironmentVariable&) = delete;
+  EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+  ~EnvironmentVariable() {
+    if (before) {
+      setenv(name, before->c_str(), 1);
+    } else {
+      unsetenv(name);
+    }
+  }
+
+ private:
+  const char* name;
+  std::optional<std::string> before;
+};
+
+class AddInOfLinks : public NativeCliTest {
+ protected:
+  /// Moves something of the add-in aside and puts a link in its place.
+  void link(const std::string& name) const {
+    const std::filesystem::path file = addIn / name;
+    const std::filesystem::path aside = at("aside");
+    std::filesystem::rename(file, aside);
+    std::filesystem::create_symlink(aside, file);
+  }
+  std::string dialog() const { return succeed({"dialog", rig(), "--addin", addIn.string()}); }
+
+  const std::filesystem::path addIn = copyAddIn();
+};
+
+TEST_F(AddInOfLinks, RunsWithALinkedModule) {
+  const std::string before = dialog();
+  link("Tintora.dll");
+  EXPECT_EQ(dialog(), before);
+}
+
+TEST_F(AddInOfLinks, RunsWithALinkedFolder) {
+  const std::string before = dialog();
+  link("resources");
+  EXPECT_EQ(dialog(), before);
+}
+
+// Another place for the copy would not help.
+TEST_F(AddInOfLinks, IsToBlameForALinkToNothing) {
+  link("resources");
+  std::filesystem::rename(at("aside"), at("elsewhere"));
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", addIn.string()}),
+              AllOf(HasSubstr(addIn.string() + "/resources"), HasSubstr("No such file"), Not(HasSubstr("TMPDIR"))));
+}
+
+TEST_F(AddInOfLinks, IsNoneWhenItsFolderCannotBeReached) {
+  std::filesystem::create_symlink("loop", at("loop"));
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", at("loop")}),
+              HasSubstr("There is no add-in in " + at("loop") + ": no file Tintora.dll can be reached (Too many"));
+}
+
+TEST_F(NativeCliTest, AFolderForTemporaryFilesThatIsNoneIsAFailureThatNamesIt) {
+  for (const std::string& folder : {std::string(), at("none"), rig()}) {
+    const EnvironmentVariable variable("TMPDIR", folder);
+    EXPECT_THAT(fail(1, {"dialog", rig()}),
+                AllOf(HasSubstr("There is no folder for temporary files"), HasSubstr("TMPDIR names none")));
+  }
+}
+
+TEST_F(NativeCliTest, TheAddInIsNotCopiedIntoItself) {
+  const std::string addIn = copyAddIn();
+  const EnvironmentVariable variable("TMPDIR", addIn + "/resources");
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--addin", addIn}),
+              AllOf(HasSubstr("into its own folder, to " + addIn + "/resources. "), HasSubstr("Set TMPDIR")));
 }
 
 TEST_F(NativeCliTest, APipeIsNoPlaceForAnOutput) {

@@ -49,6 +49,35 @@ TEST_F(RecordedRun, LeavesNoCopyOfTheAddInBehindThoughTheAddInIsInUse) {
   EXPECT_FALSE(std::filesystem::exists(copy.parent_path()));
 }
 
+/// While one lives, nobody may write the files of a folder.
+class ReadOnlyFiles {
+ public:
+  explicit ReadOnlyFiles(const std::filesystem::path& withFiles) : folder(withFiles) {
+    change(std::filesystem::perm_options::remove);
+  }
+  ReadOnlyFiles(const ReadOnlyFiles&) = delete;
+  ReadOnlyFiles& operator=(const ReadOnlyFiles&) = delete;
+  ~ReadOnlyFiles() { change(std::filesystem::perm_options::add); }
+
+ private:
+  void change(std::filesystem::perm_options how) const {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+      if (entry.is_regular_file()) {
+        std::filesystem::permissions(entry.path(), std::filesystem::perms::owner_write, how);
+      }
+    }
+  }
+  std::filesystem::path folder;
+};
+
+TEST_F(RecordedRun, LeavesNoCopyOfAReadOnlyAddInBehind) {
+  const ReadOnlyFiles addIn(std::filesystem::u8path(copyAddIn()));
+  succeed({"dialog", rig(), "--addin", at("addin"), "--trace", at("calls.txt")});
+  const std::filesystem::path copy = addInFolderIn(content("calls.txt"));
+  ASSERT_FALSE(copy.empty());
+  EXPECT_FALSE(std::filesystem::exists(copy.parent_path()));
+}
+
 class Settings : public CliTest {
  protected:
   Settings() { copyAddIn(); }
