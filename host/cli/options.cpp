@@ -59,8 +59,8 @@ void addAddInOptions(CLI::App& command, SittingOptions& options) {
       ->group(hostGroup);
   command
       .add_flag("--keep-settings", options.keepsSettings,
-                "Run the add-in in its folder, with the dialog as it was last used, and remember it again; without "
-                "this every run starts afresh in a temporary copy")
+                "Run the add-in in its folder, with the dialog as it was last used, and remember it again, one run at "
+                "a time; without this every run starts afresh in a temporary copy")
       ->group(hostGroup);
   addPathOption(command, "--trace", options.traceFile, "Record every call of the host in this file")
       ->type_name("FILE")
