@@ -89,6 +89,7 @@ int report(const std::exception& error, int exitCode) {
 
 int main(int argc, char** argv) {
   setUpTerminal();
+  prepareForEnd();
   try {
     return run(argumentsOf(argc, argv));
   } catch (const UsageError& error) {

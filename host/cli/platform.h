@@ -21,4 +21,9 @@ std::vector<std::string> argumentsOf(int argc, char** argv);
 /// Makes the terminal take UTF-8 and the control sequences for colours, until the program ends.
 void setUpTerminal();
 
+/// From now on a program that is ended from outside, by Ctrl-C, with its terminal or by a signal, leaves no scratch
+/// folder behind (host/files/scratch_folder.h), but on Windows what is open at that time; and a reader of its output
+/// that goes away is an error of writing, no end. [at the start, before there are other threads]
+void prepareForEnd();
+
 }  // namespace headless::cli

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "host/cli/platform.h"
+#include "host/files/scratch_folder.h"
 
 namespace headless::cli {
 
@@ -35,6 +36,12 @@ void restoreTerminal() {
   std::fflush(stdout);
   SetConsoleMode(handleOf(Stream::Output), earlierMode);
   SetConsoleOutputCP(earlierCodePage);
+}
+
+/// The system calls it in a thread of its own, and ends the program after it.
+BOOL WINAPI removeScratchFolders(DWORD) {
+  files::removeScratchFoldersForGood();
+  return FALSE;
 }
 
 }  // namespace
@@ -81,6 +88,10 @@ void setUpTerminal() {
   // Without a buffer the C runtime hands over single bytes, and characters of several fall apart.
   std::setvbuf(stdout, nullptr, _IOFBF, outputBlock);
   std::atexit(restoreTerminal);
+}
+
+void prepareForEnd() {
+  SetConsoleCtrlHandler(removeScratchFolders, TRUE);
 }
 
 }  // namespace headless::cli

@@ -70,6 +70,8 @@ Sitting::~Sitting() {
   try {
     finish();
   } catch (const std::exception& error) {
+    // Goes no further when the program is being ended from outside, and nothing went wrong.
+    traceOutput.reset();
     std::fprintf(stderr, "The calls were not recorded: %s\n", error.what());
   }
 }

@@ -44,6 +44,19 @@ TEST_F(NativeCliTest, TheInputIsRecognisedUnderAnotherName) {
   EXPECT_EQ(content(assemblyName("rig")), before);
 }
 
+/// While one lives, programs that are started ignore a signal, as this one does.
+class IgnoredSignal {
+ public:
+  explicit IgnoredSignal(int which) : signal(which) {}
+  IgnoredSignal(const IgnoredSignal&) = delete;
+  IgnoredSignal& operator=(const IgnoredSignal&) = delete;
+  ~IgnoredSignal() { std::signal(signal, before); }
+
+ private:
+  int signal;
+  void (*before)(int) = std::signal(signal, SIG_IGN);
+};
+
 /// While one lives, programs that are started cannot write more into a file, as on a disk that is nearly full.
 class FileSizeLimit {
  public:
@@ -55,14 +68,11 @@ class FileSizeLimit {
   }
   FileSizeLimit(const FileSizeLimit&) = delete;
   FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, atLimit);
-  }
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before); }
 
  private:
+  const IgnoredSignal atLimit{SIGXFSZ};
   rlimit before{};
-  void (*atLimit)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
 class TraceOnAFullDisk : public NativeCliTest, public WithRow<std::vector<std::string>> {};
@@ -214,6 +224,41 @@ TEST_F(NativeCliTest, APipeIsNoPlaceForAnOutput) {
                                       "\": that is a device, a pipe or a socket. Give the name of a file.\n");
   }
   EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+
+class EndedFromOutside : public NativeCliTest {
+ protected:
+  EndedFromOutside() { std::filesystem::create_directory(at("temporary")); }
+  /// Sends the signal at the add-in's question, when there is a copy of the add-in, and a trace in the making.
+  Outcome atTheQuestion(int signal, const std::string& answer = "") const {
+    const EnvironmentVariable temporary("TMPDIR", at("temporary"));
+    return signalInTerminal(applying({"--filter", "component", "--select", "Arm:1", "--appearance",
+                                      "RAL 3000 Flame red", "--trace", at("calls.txt")}),
+                            "[y/n]", signal, answer);
+  }
+};
+
+TEST_F(EndedFromOutside, LeavesNothingBehindAndTellsTheSignal) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    EXPECT_EQ(atTheQuestion(signal).exitCode, -signal);
+    EXPECT_THAT(filesInFolder(), ElementsAre("rig.step", "temporary"));
+    EXPECT_TRUE(std::filesystem::is_empty(at("temporary")));
+  }
+}
+
+TEST_F(EndedFromOutside, IsNotWhatWasStartedToIgnoreTheSignal) {
+  const IgnoredSignal closedTerminal(SIGHUP);
+  EXPECT_EQ(atTheQuestion(SIGHUP, "yes\n").exitCode, 0);
+  EXPECT_TRUE(exists("calls.txt"));
+}
+
+TEST_F(EndedFromOutside, IsNotWhatNobodyListensTo) {
+  const EnvironmentVariable temporary("TMPDIR", at("temporary"));
+  const Outcome outcome = runIntoClosedPipe(
+      applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--quiet"}));
+  EXPECT_GE(outcome.exitCode, 0) << "ended by a signal";
+  EXPECT_TRUE(exists("out.step"));
+  EXPECT_TRUE(std::filesystem::is_empty(at("temporary")));
 }
 
 }  // namespace

@@ -24,4 +24,12 @@ Outcome runProgram(const std::vector<std::string>& arguments, Program program = 
 /// terminal can be made for a program.
 Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed);
 
+/// The same; as soon as the terminal shows `shown`, the program is sent the signal, and then `typed` is typed. A
+/// program that a signal ended has that signal's number, negative, for its exit code.
+Outcome signalInTerminal(const std::vector<std::string>& arguments, const std::string& shown, int signal,
+                         const std::string& typed = "");
+
+/// Runs it with a standard output from which nobody reads. Not on Windows.
+Outcome runIntoClosedPipe(const std::vector<std::string>& arguments);
+
 }  // namespace tests

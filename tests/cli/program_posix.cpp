@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
@@ -64,16 +65,13 @@ class Collector {
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> file;
 };
 
-}  // namespace
-
-Outcome runProgram(const std::vector<std::string>& arguments, Program program) {
-  const char* file = program == Program::Usual ? usualProgram : plainProgram;
-  const Collector out;
+/// Without `out` of the outcome.
+Outcome runWithOutput(const char* file, const std::vector<std::string>& arguments, int out) {
   const Collector err;
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-  posix_spawn_file_actions_adddup2(&actions, out.descriptor(), STDOUT_FILENO);
+  posix_spawn_file_actions_adddup2(&actions, out, STDOUT_FILENO);
   posix_spawn_file_actions_adddup2(&actions, err.descriptor(), STDERR_FILENO);
   pid_t child = 0;
   const int failed = posix_spawn(&child, file, &actions, nullptr, argumentsFor(file, arguments).data(), environ);
@@ -83,31 +81,94 @@ Outcome runProgram(const std::vector<std::string>& arguments, Program program) {
   }
   Outcome outcome;
   outcome.exitCode = waitFor(child);
-  outcome.out = out.text();
   outcome.err = err.text();
   return outcome;
 }
 
-Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed) {
-  const std::vector<char*> list = argumentsFor(usualProgram, arguments);
+/// A run of the program in a terminal of its own.
+class TerminalRun {
+ public:
+  explicit TerminalRun(const std::vector<std::string>& arguments) {
+    const std::vector<char*> list = argumentsFor(usualProgram, arguments);
+    child = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child < 0) {
+      throw std::runtime_error("no terminal can be made");
+    }
+    if (child == 0) {
+      execv(usualProgram, list.data());
+      _exit(127);
+    }
+  }
+  TerminalRun(const TerminalRun&) = delete;
+  TerminalRun& operator=(const TerminalRun&) = delete;
+  ~TerminalRun() { close(terminal); }
+
+  void type(const std::string& typed) const {
+    if (write(terminal, typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {
+      throw std::runtime_error("cannot type into the terminal");
+    }
+  }
+
+  void waitUntilShown(const std::string& text) {
+    while (shown.find(text) == std::string::npos) {
+      char next = 0;
+      if (read(terminal, &next, 1) != 1) {
+        throw std::runtime_error("not shown: " + text + "\nbut: " + shown);
+      }
+      shown += next;
+    }
+  }
+
+  void send(int signal) const { kill(child, signal); }
+
+  /// Waits for the end of the program.
+  Outcome finish() {
+    Outcome outcome;
+    outcome.out = shown + readAll(terminal);
+    outcome.exitCode = waitFor(child);
+    outcome.out.erase(std::remove(outcome.out.begin(), outcome.out.end(), '\r'), outcome.out.end());
+    return outcome;
+  }
+
+ private:
   int terminal = -1;
-  const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
-  if (child < 0) {
-    throw std::runtime_error("no terminal can be made");
-  }
-  if (child == 0) {
-    execv(usualProgram, list.data());
-    _exit(127);
-  }
-  if (write(terminal, typed.data(), typed.size()) != static_cast<ssize_t>(typed.size())) {
-    throw std::runtime_error("cannot type into the terminal");
-  }
-  Outcome outcome;
-  outcome.out = readAll(terminal);
-  outcome.exitCode = waitFor(child);
-  close(terminal);
-  outcome.out.erase(std::remove(outcome.out.begin(), outcome.out.end(), '\r'), outcome.out.end());
+  pid_t child = -1;
+  std::string shown;
+};
+
+}  // namespace
+
+Outcome runProgram(const std::vector<std::string>& arguments, Program program) {
+  const Collector out;
+  Outcome outcome = runWithOutput(program == Program::Usual ? usualProgram : plainProgram, arguments, out.descriptor());
+  outcome.out = out.text();
   return outcome;
+}
+
+Outcome runIntoClosedPipe(const std::vector<std::string>& arguments) {
+  std::array<int, 2> ends{};
+  if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+    throw std::runtime_error("no pipe can be made");
+  }
+  close(ends[0]);
+  Outcome outcome = runWithOutput(usualProgram, arguments, ends[1]);
+  close(ends[1]);
+  return outcome;
+}
+
+Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed) {
+  TerminalRun run(arguments);
+  run.type(typed);
+  return run.finish();
+}
+
+Outcome signalInTerminal(const std::vector<std::string>& arguments, const std::string& shown, int signal,
+                         const std::string& typed) {
+  TerminalRun run(arguments);
+  run.waitUntilShown(shown);
+  run.send(signal);
+  run.type(typed);
+  return run.finish();
 }
 
 }  // namespace tests
