@@ -28,8 +28,10 @@ constexpr const char* hostGroup = "Add-in and host";
 
 CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::filesystem::path& path,
                            const std::string& description) {
-  return command.add_option_function<std::string>(
-      name, [&path](const std::string& text) { path = std::filesystem::u8path(text); }, description);
+  return command
+      .add_option_function<std::string>(
+          name, [&path](const std::string& text) { path = std::filesystem::u8path(text); }, description)
+      ->check([](const std::string& text) { return text.empty() ? "The name is empty; give one" : ""; });
 }
 
 void addInputFile(CLI::App& command, std::filesystem::path& file) {

@@ -12,7 +12,7 @@
 
 namespace headless::cli {
 
-/// An option or argument that names a file or folder, in UTF-8 on every system.
+/// An option or argument that names a file or folder, in UTF-8 on every system. A name that is empty makes no sense.
 CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::filesystem::path& path,
                            const std::string& description);
 

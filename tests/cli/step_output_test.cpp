@@ -159,6 +159,13 @@ TEST_F(NativeCliTest, RenderRefusesTinyPictures) {
   EXPECT_THAT(fail(2, {"render", rig(), "--png", at("out.png"), "--width", "3"}), HasSubstr("--width"));
 }
 
+TEST_F(NativeCliTest, NeitherAPictureNorAFileForViewersHasAnEmptyName) {
+  EXPECT_THAT(fail(2, {"render", rig(), "--png", ""}), HasSubstr("--png: The name is empty; give one"));
+  EXPECT_THAT(fail(2, {"clear", rig(), "--filter", "body", "--select", "*", "--save", saved(), "--glb", ""}),
+              HasSubstr("--glb: The name is empty; give one"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
 TEST_F(NativeCliTest, EndingsSayWhatIsSaved) {
   const std::vector<std::string> clearing = {"clear", rig(), "--filter", "body", "--select", "*", "--save"};
   const auto clearingInto = [&](const std::vector<std::string>& outputs) {
