@@ -24,7 +24,7 @@ std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {
     return "";
   }
   const std::string type = option->get_type_name();
-  const bool takesSeveral = option->get_expected_max() == CLI::detail::expected_max_vector_size;
+  const bool takesSeveral = option->get_expected_max() > 1;
   return " " + type.substr(0, type.find(':')) + (takesSeveral ? "..." : "");
 }
 

@@ -24,6 +24,19 @@ constexpr const char* pickGroup = "What to pick";
 constexpr const char* saveGroup = "What to save";
 constexpr const char* hostGroup = "Add-in and host";
 
+// As an option for a list, CLI11 would take "[ab]" for a list that is written out, and "{}" for an empty one.
+CLI::Option* addPatterns(CLI::App& command, std::vector<std::string>& patterns) {
+  constexpr int manyPatterns = 1'000'000;
+  const auto take = [&patterns](const CLI::results_t& given) {
+    patterns = given;
+    return true;
+  };
+  return command.add_option("--select", take, "The objects to pick, one or more patterns")
+      ->expected(1, manyPatterns)
+      ->type_name("GLOB")
+      ->group(pickGroup);
+}
+
 }  // namespace
 
 CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::filesystem::path& path,
@@ -83,10 +96,7 @@ void addPickOptions(CLI::App& command, PickOptions& options, Picking picking) {
                      ->type_name("KIND")
                      ->group(pickGroup)
                      ->required(isRequired);
-  auto* select = command.add_option("--select", options.patterns, "The objects to pick, one or more patterns")
-                     ->type_name("GLOB")
-                     ->group(pickGroup)
-                     ->required(isRequired);
+  auto* select = addPatterns(command, options.patterns)->required(isRequired);
   if (!isRequired) {
     filter->needs(select);
     select->needs(filter);

@@ -46,6 +46,34 @@ TEST_F(CliTest, DialogWithSomethingPickedSaysWhatItShows) {
   EXPECT_THAT(dialog, Not(HasSubstr("greyed out")));
 }
 
+struct BracketsCase {
+  const char* name;
+  std::vector<std::string> patterns;
+  const char* picked;
+};
+
+class PatternInBrackets : public CliTest, public WithRow<BracketsCase> {};
+
+TABLE(Patterns, PatternInBrackets, byName,
+      {{"FromSetToSet", {"[B]as[e]"}, "1 picked"},
+       {"WithCommas", {"[B,C]as[d,e]"}, "1 picked"},
+       {"AmongOthers", {"Arm:1/Beam", "[B]as[e]", "Arm:[2]/Bea[m]"}, "3 picked"}});
+
+TABLE_TEST(PatternInBrackets, IsOnePattern) {
+  std::vector<std::string> arguments = {"dialog", rig(), "--filter", "body", "--select"};
+  arguments.insert(arguments.end(), row().patterns.begin(), row().patterns.end());
+  EXPECT_THAT(succeed(arguments), HasSubstr(row().picked));
+}
+
+class PatternOfBracketsAlone : public CliTest, public WithRow<const char*> {};
+
+TABLE(Patterns, PatternOfBracketsAlone, byNumber, {"[]", "{}"});
+
+TABLE_TEST(PatternOfBracketsAlone, IsAPatternAsWell) {
+  EXPECT_THAT(fail(1, {"dialog", rig(), "--filter", "body", "--select", row(), "--profile", "lenient"}),
+              HasSubstr("no body of Rig matches \"" + std::string(row()) + "\""));
+}
+
 class DialogUnderProfile : public CliTest, public WithRow<const char*> {};
 
 TABLE(Profiles, DialogUnderProfile, byText, {"lenient", "documented", "hostile"});
