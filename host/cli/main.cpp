@@ -50,6 +50,12 @@ std::string unknownCommand(const CLI::App& program, const std::string& given) {
   return "There is no command \"" + given + "\"" + (near.empty() ? "; there are " + listed(names, names.size()) : near);
 }
 
+/// What is wrong with arguments of which none was a command.
+std::string missingCommand(const CLI::App& program, const std::string& first) {
+  return first.rfind('-', 0) == 0 ? "\"" + first + "\" cannot come first: begin with a command, or with --help"
+                                  : unknownCommand(program, first);
+}
+
 int run(const std::vector<std::string>& arguments) {
   CLI::App program("Runs the add-in Tintora on assemblies, without the CAD program.", "tintora-host");
   // A path that begins with a slash is no option, on Windows either.
@@ -71,8 +77,8 @@ int run(const std::vector<std::string>& arguments) {
     if (error.get_exit_code() == 0) {
       return program.exit(error);
     }
-    if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 && program.get_subcommands().empty()) {
-      throw UsageError(unknownCommand(program, arguments.front()));
+    if (!arguments.empty() && program.get_subcommands().empty()) {
+      throw UsageError(missingCommand(program, arguments.front()));
     }
     throw UsageError(std::string(error.what()) + "\nRun with --help for more information.");
   }

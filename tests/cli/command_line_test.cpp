@@ -47,6 +47,7 @@ struct Misuse {
 const std::vector<Misuse> misuses = {
     {"NoCommand", {}, "subcommand is required"},
     {"MisspeltCommand", {"tre", "RIG"}, "There is no command \"tre\"; did you mean \"tree\"?"},
+    {"OptionInPlaceOfACommand", {"--bogus", "RIG"}, "\"--bogus\" cannot come first: begin with a command"},
     {"NoFile", {"tree"}, "FILE is required"},
     {"UnknownOption", {"tree", "RIG", "--jason"}, "--jason"},
     {"UnknownKind", {"apply", "RIG", "--filter", "edge", "--select", "*", "--save", "OUT"}, "edge"},
