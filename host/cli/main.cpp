@@ -2,6 +2,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -56,6 +57,16 @@ std::string missingCommand(const CLI::App& program, const std::string& first) {
                                   : unknownCommand(program, first);
 }
 
+/// Raises Failure when the system did not take all that was printed.
+void finishOutput() {
+  std::cout.flush();
+  if (!std::cout || std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    throw Failure(
+        "Standard output cannot be written: the disk may be full, or what reads it has ended. Send it elsewhere. Files "
+        "that were to be saved are saved.");
+  }
+}
+
 int run(const std::vector<std::string>& arguments) {
   CLI::App program("Runs the add-in Tintora on assemblies, without the CAD program.", "tintora-host");
   // A path that begins with a slash is no option, on Windows either.
@@ -97,7 +108,9 @@ int main(int argc, char** argv) {
   setUpTerminal();
   prepareForEnd();
   try {
-    return run(argumentsOf(argc, argv));
+    const int exitCode = run(argumentsOf(argc, argv));
+    finishOutput();
+    return exitCode;
   } catch (const UsageError& error) {
     return report(error, exitUsage);
   } catch (const std::exception& error) {

@@ -57,6 +57,32 @@ class IgnoredSignal {
   void (*before)(int) = std::signal(signal, SIG_IGN);
 };
 
+class WithoutOutput : public NativeCliTest, public WithRow<std::vector<std::string>> {};
+
+TABLE(Commands, WithoutOutput, [](const auto& row) { return row.front().substr(row.front().find_first_not_of('-')); },
+      {{"--help"},
+       {"--version"},
+       {"tree", "--json", "--all"},
+       {"dialog"},
+       {"clear", "--filter", "body", "--select", "*", "--save", "OUT"}});
+
+TABLE_TEST(WithoutOutput, IsAFailureThatSaysSo) {
+  std::vector<std::string> arguments = row();
+  if (arguments.front().front() != '-') {
+    arguments.insert(arguments.begin() + 1, {rig(), "--quiet"});
+  }
+  const bool isSaving = arguments.back() == "OUT";
+  if (isSaving) {
+    arguments.back() = saved();
+  }
+  const Outcome outcome = runWithoutOutput(arguments);
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err,
+            "tintora-host: Standard output cannot be written: the disk may be full, or what reads it has ended. Send "
+            "it elsewhere. Files that were to be saved are saved.\n");
+  EXPECT_EQ(exists(assemblyName("out")), isSaving);
+}
+
 /// While one lives, programs that are started cannot write more into a file, as on a disk that is nearly full.
 class FileSizeLimit {
  public:

@@ -20,6 +20,9 @@ enum class Program { Usual, Plain };
 /// Runs the program to its end, without input and without a terminal; line breaks are plain "\n".
 Outcome runProgram(const std::vector<std::string>& arguments, Program program = Program::Usual);
 
+/// Runs it with a standard output that takes nothing, as on a full disk. Not on Windows.
+Outcome runWithoutOutput(const std::vector<std::string>& arguments);
+
 /// Runs it in a terminal in which `typed` is typed; `out` is all that the terminal shows. Not on Windows, where no
 /// terminal can be made for a program.
 Outcome runInTerminal(const std::vector<std::string>& arguments, const std::string& typed);

@@ -145,6 +145,12 @@ Outcome runProgram(const std::vector<std::string>& arguments, Program program) {
   return outcome;
 }
 
+Outcome runWithoutOutput(const std::vector<std::string>& arguments) {
+  // Opened for reading only.
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::fopen("/dev/null", "r"), &std::fclose);
+  return runWithOutput(usualProgram, arguments, fileno(out.get()));
+}
+
 Outcome runIntoClosedPipe(const std::vector<std::string>& arguments) {
   std::array<int, 2> ends{};
   if (pipe2(ends.data(), O_CLOEXEC) != 0) {
