@@ -86,13 +86,14 @@ struct Sample {
   std::array<double, 3> colour{paperWhite, paperWhite, paperWhite};
 };
 
-/// The samples of a picture.
+/// The samples of some rows of a picture.
 class Canvas {
  public:
-  Canvas(int canvasWidth, int canvasHeight)
+  Canvas(int canvasWidth, int canvasTop, int canvasBottom)
       : width(canvasWidth),
-        height(canvasHeight),
-        samples(static_cast<std::size_t>(canvasWidth) * static_cast<std::size_t>(canvasHeight)) {}
+        top(canvasTop),
+        bottom(canvasBottom),
+        samples(static_cast<std::size_t>(canvasWidth) * static_cast<std::size_t>(canvasBottom - canvasTop)) {}
 
   const Sample& at(int x, int y) const { return samples[index(x, y)]; }
 
@@ -103,6 +104,12 @@ class Canvas {
       return Point{fit.left + fit.scale * seen[0], fit.top + fit.scale * seen[1], seen[2]};
     });
     const auto& [a, b, c] = corners;
+    const auto [highest, lowest] = std::minmax({a[1], b[1], c[1]});
+    const int begin = std::max(top, firstCentre(highest));
+    const int end = std::min(bottom, firstCentre(lowest));
+    if (begin >= end) {
+      return;
+    }
     const double area = (b[0] - a[0]) * (c[1] - a[1]) - (c[0] - a[0]) * (b[1] - a[1]);
     if (std::abs(area) < 1e-12) {
       return;
@@ -111,8 +118,7 @@ class Canvas {
     const double slopeX = ((b[2] - a[2]) * (c[1] - a[1]) - (c[2] - a[2]) * (b[1] - a[1])) / area;
     const double slopeY = ((c[2] - a[2]) * (b[0] - a[0]) - (b[2] - a[2]) * (c[0] - a[0])) / area;
     const std::array<double, 3> colour = litColour(triangle);
-    const auto [top, bottom] = std::minmax({a[1], b[1], c[1]});
-    for (int y = firstCentre(top); y < std::min(height, firstCentre(bottom)); ++y) {
+    for (int y = begin; y < end; ++y) {
       const auto [left, right] = spanOf(corners, y + 0.5);
       for (int x = firstCentre(left); x < std::min(width, firstCentre(right)); ++x) {
         const double depth = a[2] + slopeX * (x + 0.5 - a[0]) + slopeY * (y + 0.5 - a[1]);
@@ -127,12 +133,12 @@ class Canvas {
   /// True where another face begins to the right or below.
   bool isOnLine(int x, int y) const {
     const std::uint32_t face = at(x, y).face;
-    return (x + 1 < width && at(x + 1, y).face != face) || (y + 1 < height && at(x, y + 1).face != face);
+    return (x + 1 < width && at(x + 1, y).face != face) || (y + 1 < bottom && at(x, y + 1).face != face);
   }
 
  private:
   std::size_t index(int x, int y) const {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+    return static_cast<std::size_t>(y - top) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
   }
 
   /// The first row or column whose middle is not before that place.
@@ -163,7 +169,8 @@ class Canvas {
   }
 
   int width;
-  int height;
+  int top;
+  int bottom;
   std::vector<Sample> samples;
 };
 
@@ -186,18 +193,23 @@ std::array<std::uint8_t, 3> averageAt(const Canvas& canvas, int x, int y) {
 
 }  // namespace
 
-Picture drawn(const std::vector<Triangle>& triangles, int width, int height) {
+Picture drawn(const std::vector<Triangle>& triangles, int width, int height, int samplesAtATime) {
   const Fit fit = fitOf(triangles, width * oversampling, height * oversampling);
-  Canvas canvas(width * oversampling, height * oversampling);
-  for (const Triangle& triangle : triangles) {
-    canvas.draw(triangle, fit);
-  }
+  const int rowsAtATime = std::max(1, samplesAtATime / (oversampling * oversampling * width));
   Picture picture{width, height, {}};
   picture.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const auto pixel = averageAt(canvas, x, y);
-      picture.pixels.insert(picture.pixels.end(), pixel.begin(), pixel.end());
+  for (int top = 0; top < height; top += rowsAtATime) {
+    const int bottom = std::min(height, top + rowsAtATime);
+    // With the row below, whose faces decide where lines are in the one above.
+    Canvas canvas(width * oversampling, top * oversampling, std::min(bottom * oversampling + 1, height * oversampling));
+    for (const Triangle& triangle : triangles) {
+      canvas.draw(triangle, fit);
+    }
+    for (int y = top; y < bottom; ++y) {
+      for (int x = 0; x < width; ++x) {
+        const auto pixel = averageAt(canvas, x, y);
+        picture.pixels.insert(picture.pixels.end(), pixel.begin(), pixel.end());
+      }
     }
   }
   return picture;

@@ -16,9 +16,14 @@ struct Picture {
   std::vector<std::uint8_t> pixels;
 };
 
+/// How many places of a picture are looked at before they become pixels, unless told otherwise: 160 MB of them.
+inline constexpr int usualSamplesAtATime = 1 << 22;
+
 /// Draws the triangles so that they fill the picture, lit from the viewer's side, with a line where faces meet, on
-/// white.
-Picture drawn(const std::vector<step::Triangle>& triangles, int width, int height);
+/// white. It is drawn from the top downwards, as many rows at a time as have so many samples, at least one; the picture
+/// is the same.
+Picture drawn(const std::vector<step::Triangle>& triangles, int width, int height,
+              int samplesAtATime = usualSamplesAtATime);
 
 /// Writes a PNG file, whole or not at all. Raises files::Error.
 void writePng(const Picture& picture, const std::filesystem::path& file);

@@ -49,6 +49,18 @@ TEST(Picture, HasALineWhereTwoFacesMeet) {
   EXPECT_NE(one.pixels, two.pixels);
 }
 
+// Faces meet at every slope, so that some line would be missing or doubled wherever rows are drawn apart.
+TEST(Picture, IsTheSameHoweverManyRowsAreDrawnAtATime) {
+  std::vector<Triangle> triangles = square(0, {200, 200, 200}, 1);
+  triangles[1].face = 2;
+  const std::vector<Triangle> above = square(0.4, {0, 0, 200}, 3);
+  triangles.insert(triangles.end(), above.begin(), above.end());
+  const Picture whole = drawn(triangles, 61, 53);
+  for (const int samples : {1, 61 * 9, 61 * 9 * 7, 61 * 9 * 52}) {
+    EXPECT_EQ(drawn(triangles, 61, 53, samples).pixels, whole.pixels) << samples;
+  }
+}
+
 TEST(Picture, OfNothingIsWhite) {
   const Picture picture = drawn({}, 8, 8);
   EXPECT_EQ(picture.pixels, std::vector<std::uint8_t>(8 * 8 * 3, 255));
