@@ -113,8 +113,8 @@ void runApply(const ApplyOptions& options) {
   }
   checkOutputs(options.file, options.outputs,
                {{"--trace", options.sitting.traceFile},
-                {"--picture", options.picture},
-                {"--question-picture", options.questionPicture}});
+                {"--picture", options.picture, {".svg"}},
+                {"--question-picture", options.questionPicture, {".svg"}}});
   changeAndSave(options, [&](Sitting& sitting) {
     prepareAnswers(sitting, options.answer.empty() ? std::nullopt : std::optional<bool>(options.answer == "yes"));
     const Picks picks = options.pick.picks();

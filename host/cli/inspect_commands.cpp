@@ -67,8 +67,8 @@ void savePictures(Sitting& sitting, const DialogOptions& options) {
 
 void runDialog(const DialogOptions& options) {
   checkDestinations(options.file, {{"--trace", options.sitting.traceFile},
-                                   {"--picture", options.picture},
-                                   {"--toolbar-picture", options.toolbarPicture}});
+                                   {"--picture", options.picture, {".svg"}},
+                                   {"--toolbar-picture", options.toolbarPicture, {".svg"}}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   sitting.startAddIn();

@@ -55,6 +55,11 @@ void addInputFile(CLI::App& command, std::filesystem::path& file) {
       ->required();
 }
 
+void addStepFile(CLI::App& command, std::filesystem::path& file) {
+  addPathOption(command, "FILE", file, "The assembly, a STEP file (AP203, AP214 or AP242); it is only read")
+      ->required();
+}
+
 void addHostOptions(CLI::App& command, SittingOptions& options) {
   addPathOption(command, "--addin", options.addInFolder,
                 "Folder of the add-in, with Tintora.dll and resources/Libs; the folder addin beside this program "

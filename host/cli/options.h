@@ -18,6 +18,8 @@ CLI::Option* addPathOption(CLI::App& command, const std::string& name, std::file
 
 /// FILE, the assembly.
 void addInputFile(CLI::App& command, std::filesystem::path& file);
+/// FILE, the assembly, where it must have geometry.
+void addStepFile(CLI::App& command, std::filesystem::path& file);
 
 /// --addin and --quiet.
 void addHostOptions(CLI::App& command, SittingOptions& options);

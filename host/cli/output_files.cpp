@@ -26,22 +26,21 @@ bool isSameFile(const fs::path& a, const fs::path& b) {
   return fs::equivalent(a, b, isMissing) || plain(a) == plain(b);
 }
 
-void requireEnding(const char* option, const fs::path& file, const std::vector<std::string>& endings) {
-  std::string name = file.filename().u8string();
+void requireEnding(const NamedOutput& output) {
+  std::string name = output.file.filename().u8string();
   std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
   const auto endsIn = [&](const std::string& ending) {
     return name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
   };
-  if (std::none_of(endings.begin(), endings.end(), endsIn)) {
-    throw UsageError(std::string(option) + " " + file.u8string() + ": the name must end in " +
-                     listed(endings, endings.size()));
+  if (!output.endings.empty() && std::none_of(output.endings.begin(), output.endings.end(), endsIn)) {
+    throw UsageError(std::string(output.option) + " " + output.file.u8string() + ": the name must end in " +
+                     listed(output.endings, output.endings.size()));
   }
 }
 
-}  // namespace
-
-void checkDestinations(const fs::path& input, const std::vector<NamedOutput>& outputs) {
-  std::vector<NamedOutput> seen;
+/// What the names alone tell. Gives the outputs that have a file.
+std::vector<NamedOutput> checkNames(const fs::path& input, const std::vector<NamedOutput>& outputs) {
+  std::vector<NamedOutput> named;
   for (const NamedOutput& output : outputs) {
     if (output.file.empty()) {
       continue;
@@ -50,34 +49,36 @@ void checkDestinations(const fs::path& input, const std::vector<NamedOutput>& ou
       throw UsageError("\"" + output.file.u8string() +
                        "\" is the file that is read, which is never changed: name another one");
     }
-    for (const NamedOutput& other : seen) {
+    for (const NamedOutput& other : named) {
       if (isSameFile(other.file, output.file)) {
         throw UsageError("\"" + output.file.u8string() + "\" is the file of both " + other.option + " and " +
                          output.option + ": name another one");
       }
     }
-    seen.push_back(output);
+    named.push_back(output);
   }
-  for (const NamedOutput& output : seen) {
+  std::for_each(named.begin(), named.end(), requireEnding);
+  return named;
+}
+
+}  // namespace
+
+void checkDestinations(const fs::path& input, const std::vector<NamedOutput>& outputs) {
+  for (const NamedOutput& output : checkNames(input, outputs)) {
     files::checkDestination(output.file);
   }
 }
 
 void checkOutputs(const fs::path& input, const OutputFiles& outputs, const std::vector<NamedOutput>& others,
                   const char* designOption) {
-  if (!outputs.design.empty()) {
-    requireEnding(designOption, outputs.design, designEndings());
-  }
-  if (!outputs.glb.empty()) {
-    requireEnding("--glb", outputs.glb, {".glb"});
-  }
+  std::vector<NamedOutput> all = {{designOption, outputs.design, designEndings()}, {"--glb", outputs.glb, {".glb"}}};
+  all.insert(all.end(), others.begin(), others.end());
+  checkNames(input, all);
   for (const fs::path& file : {outputs.design, outputs.glb}) {
     if (!file.empty()) {
       requireGeometryFor(input, file);
     }
   }
-  std::vector<NamedOutput> all = {{designOption, outputs.design}, {"--glb", outputs.glb}};
-  all.insert(all.end(), others.begin(), others.end());
   checkDestinations(input, all);
 }
 

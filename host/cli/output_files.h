@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include "host/cli/progress_line.h"
@@ -15,14 +16,16 @@ struct OutputFiles {
   std::filesystem::path glb;
 };
 
-/// A file to be written, and the option that names it.
+/// A file to be written, the option that names it, and the endings that its name may have, or none for any.
 struct NamedOutput {
   const char* option;
   std::filesystem::path file;
+  std::vector<std::string> endings = {};
 };
 
-/// Raises UsageError when writing one of the outputs would replace the input or another output, under whatever name,
-/// and files::Error when one has no folder to go to or is itself a folder. Those without a file are passed over.
+/// Raises UsageError when writing one of the outputs would replace the input or another output, under whatever name, or
+/// has the wrong ending, and files::Error when one cannot be made where it is to go. Those without a file are passed
+/// over.
 void checkDestinations(const std::filesystem::path& input, const std::vector<NamedOutput>& outputs);
 
 /// Raises UsageError when an output has the wrong ending, takes geometry that the input has not, or would replace the

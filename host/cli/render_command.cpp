@@ -21,7 +21,7 @@ struct RenderOptions {
 
 void runRender(const RenderOptions& options) {
   requireGeometryFor(options.file, options.png);
-  checkDestinations(options.file, {{"--png", options.png}});
+  checkDestinations(options.file, {{"--png", options.png, {".png"}}});
   Sitting sitting(options.sitting);
   sitting.open(options.file);
   // Finer than for viewers, whose smooth shading hides the corners of round faces.
@@ -39,7 +39,7 @@ void runRender(const RenderOptions& options) {
 void addRenderCommand(CLI::App& program) {
   const auto options = std::make_shared<RenderOptions>();
   CLI::App& command = *program.add_subcommand("render", "Draw a picture of an assembly, as it shows up in a viewer");
-  addInputFile(command, options->file);
+  addStepFile(command, options->file);
   const auto addSize = [&](const char* option, int& size, const char* description) {
     command.add_option(option, size, description)->check(CLI::Range(16, 8192))->type_name("PIXELS");
   };

@@ -95,6 +95,17 @@ const std::vector<Misuse> misuses = {
     {"DemoAndTraceInOneFile",
      {"demo", "RIG", "--save", "OUT", "--trace", "OUT"},
      "is the file of both --save and --trace"},
+    {"DrawingTheDialogAsPng", {"dialog", "RIG", "--picture", "x.png"}, "--picture x.png: the name must end in .svg"},
+    {"DrawingTheToolbarAsPng",
+     {"dialog", "RIG", "--toolbar-picture", "svg"},
+     "--toolbar-picture svg: the name must end in .svg"},
+    {"DrawingTheDialogAfterApplyAsPng",
+     {"apply", "RIG", "--filter", "body", "--select", "*", "--appearance", "X", "--save", "OUT", "--picture", "x.png"},
+     "--picture x.png: the name must end in .svg"},
+    {"DrawingTheQuestionAsPng",
+     {"apply", "RIG", "--filter", "body", "--select", "*", "--appearance", "X", "--save", "OUT", "--question-picture",
+      "x.png"},
+     "--question-picture x.png: the name must end in .svg"},
     {"ReadingAFileWithoutName", {"tree", ""}, "FILE: The name is empty"},
     {"SavingUnderNoName",
      {"apply", "RIG", "--filter", "body", "--select", "*", "--appearance", "X", "--save", ""},
@@ -123,6 +134,8 @@ struct CommandWithOutput {
   const char* name;
   /// Without the output, which comes last.
   std::vector<std::string> arguments;
+  /// Of the output; without one it is an assembly.
+  std::string ending = {};
 };
 
 const std::vector<CommandWithOutput> commandsWithOutput = {
@@ -131,15 +144,19 @@ const std::vector<CommandWithOutput> commandsWithOutput = {
     {"ClearWithTrace", {"clear", "RIG", "--filter", "body", "--select", "*", "--save", "OUT", "--trace"}},
     {"ApplyWithPicture",
      {"apply", "RIG", "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save", "OUT",
-      "--picture"}},
-    {"Dialog", {"dialog", "RIG", "--picture"}},
-    {"Toolbar", {"dialog", "RIG", "--toolbar-picture"}},
+      "--picture"},
+     ".svg"},
+    {"Dialog", {"dialog", "RIG", "--picture"}, ".svg"},
+    {"Toolbar", {"dialog", "RIG", "--toolbar-picture"}, ".svg"},
     {"Demo", {"demo", "RIG", "--save"}},
     {"Convert", {"convert", "RIG"}},
 };
 
 class CommandWithoutPlace : public CommandLine, public WithRow<CommandWithOutput> {
  protected:
+  std::string output(const std::string& stem) const {
+    return row().ending.empty() ? assemblyName(stem) : stem + row().ending;
+  }
   std::string failSaving(const std::string& target) const {
     std::vector<std::string> arguments = argumentsFor(row().arguments);
     arguments.push_back(target);
@@ -151,17 +168,17 @@ TABLE(Table, CommandWithoutPlace, byName, commandsWithOutput);
 
 // Found before any work: nothing is reported as done, and not even the assembly is read.
 TABLE_TEST(CommandWithoutPlace, SaysAtOnceThatTheFolderIsNotThere) {
-  const std::string target = at(assemblyName("nowhere/out"));
+  const std::string target = at(output("nowhere/out"));
   EXPECT_EQ(failSaving(target), "tintora-host: Cannot write \"" + target + "\": the folder \"" + at("nowhere") +
                                     "\" does not exist. Create it or choose another folder.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("rig")));
 }
 
 TABLE_TEST(CommandWithoutPlace, SaysAtOnceThatTheNameIsThatOfAFolder) {
-  const std::string target = at(assemblyName("folder"));
+  const std::string target = at(output("folder"));
   std::filesystem::create_directory(std::filesystem::u8path(target));
   EXPECT_EQ(failSaving(target), "tintora-host: Cannot write \"" + target + "\": that is a folder. Give a file name.\n");
-  EXPECT_THAT(filesInFolder(), ElementsAre(assemblyName("folder"), assemblyName("rig")));
+  EXPECT_THAT(filesInFolder(), ElementsAre(output("folder"), assemblyName("rig")));
 }
 
 TEST_F(CommandLine, AMisuseOfOptionsSaysWhereToReadMore) {

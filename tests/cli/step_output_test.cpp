@@ -10,6 +10,7 @@
 namespace tests {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::EndsWith;
@@ -147,6 +148,16 @@ TEST_F(NativeCliTest, RenderIsACommandToo) {
 
 TEST_F(NativeCliTest, RenderDoesNotDrawOntoItsInput) {
   EXPECT_THAT(fail(2, {"render", rig(), "--png", rig()}), HasSubstr("is the file that is read"));
+}
+
+TEST_F(NativeCliTest, RenderDrawsPngsOnlyAndNamesThemSo) {
+  EXPECT_THAT(fail(2, {"render", rig(), "--png", at("out.jpg")}), HasSubstr("out.jpg: the name must end in .png"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("rig.step"));
+}
+
+TEST_F(NativeCliTest, TheHelpOfRenderPromisesNoDesignFiles) {
+  EXPECT_THAT(succeed({"render", "--help"}), AllOf(HasSubstr("a STEP file"), Not(HasSubstr("(.design.json)"))));
+  EXPECT_THAT(succeed({"tree", "--help"}), HasSubstr("(.design.json)"));
 }
 
 TEST_F(NativeCliTest, RenderSaysAtOnceThatTheFolderIsNotThere) {
