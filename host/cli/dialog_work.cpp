@@ -29,12 +29,22 @@ constexpr AssignmentInputs appearanceInputs = {"appearance", ids::appearanceGrou
 constexpr AssignmentInputs materialInputs = {"material", ids::materialGroup, ids::materialLibraries, ids::materials,
                                              ids::materialFilter};
 
+// What a list shows in place of items, when the library or the filter leaves none.
+constexpr const char* placeholder = "nothing found";
+
+/// The items; without the placeholder.
 std::vector<std::string> namesIn(const InputView& list) {
   std::vector<std::string> names;
   for (const ItemView& item : list.items) {
-    names.push_back(item.name);
+    if (item.name != placeholder) {
+      names.push_back(item.name);
+    }
   }
   return names;
+}
+
+std::string choiceFrom(const std::vector<std::string>& names) {
+  return names.empty() ? "; the list is empty" : "; there are " + listed(names, 5);
 }
 
 void choose(Sitting& sitting, const std::string& inputId, const std::string& name, const std::string& missing) {
@@ -43,14 +53,17 @@ void choose(Sitting& sitting, const std::string& inputId, const std::string& nam
   if (std::find(names.begin(), names.end(), name) == names.end()) {
     const std::string near = didYouMean(name, names);
     throw Failure(sitting.file().u8string() + ": " + missing + " \"" + name + "\"" +
-                  (near.empty() ? "; there are " + listed(names, 5) : near));
+                  (near.empty() ? choiceFrom(names) : near));
   }
   session.choose(inputId, name);
 }
 
 void chooseItem(Sitting& sitting, const AssignmentInputs& inputs, const std::string& name) {
   const std::string library = sitting.session().input(inputs.libraries).selectedName();
-  choose(sitting, inputs.items, name, "the library " + library + " has no " + inputs.what);
+  const std::string filter = sitting.session().input(inputs.filter).text;
+  choose(sitting, inputs.items, name,
+         (filter.empty() ? "" : "under the filter \"" + filter + "\" ") + "the library " + library + " has no " +
+             inputs.what);
 }
 
 void fillIn(Sitting& sitting, const AssignmentInputs& inputs, const std::string& filter, const std::string& item) {
@@ -82,8 +95,7 @@ std::string whyApplyIsOff(const Session& session) {
     return "nothing is picked";
   }
   for (const AssignmentInputs& inputs : {appearanceInputs, materialInputs}) {
-    const InputView list = session.input(inputs.items);
-    if (list.items.empty() || list.items.front().name == "nothing found") {
+    if (namesIn(session.input(inputs.items)).empty()) {
       return "the list of " + std::string(inputs.what) + "s of the library " +
              session.input(inputs.libraries).selectedName() + " is empty";
     }

@@ -6,6 +6,7 @@
 #include "host/cli/commands.h"
 #include "host/cli/dialog_ids.h"
 #include "host/cli/dialog_text.h"
+#include "host/cli/failure.h"
 #include "host/cli/looks_text.h"
 #include "host/cli/options.h"
 #include "host/cli/picture_files.h"
@@ -65,7 +66,22 @@ void savePictures(Sitting& sitting, const DialogOptions& options) {
   }
 }
 
+/// Raises UsageError when something is to be done in a group that is to be closed.
+void requireOpenGroups(const DialogOptions& options) {
+  const DialogState& state = options.state;
+  for (const std::string& word : options.closedWords) {
+    const bool isAppearance = word == "appearance";
+    const std::string& filter = isAppearance ? state.appearanceFilter : state.materialFilter;
+    const std::string& item = isAppearance ? state.appearance : state.material;
+    if (!filter.empty() || !item.empty() || options.openWord == word) {
+      throw UsageError("--close " + word + " goes with none of --" + word + "-filter, --" + word + " and --open-list " +
+                       word + ": what is in a closed group is out of reach");
+    }
+  }
+}
+
 void runDialog(const DialogOptions& options) {
+  requireOpenGroups(options);
   checkDestinations(options.file, {{"--trace", options.sitting.traceFile},
                                    {"--picture", options.picture, {".svg"}},
                                    {"--toolbar-picture", options.toolbarPicture, {".svg"}}});
@@ -92,14 +108,16 @@ void addStateOptions(CLI::App& command, DialogOptions& options) {
   const auto add = [&](const char* option, auto& value, const char* description, const char* type) {
     return command.add_option(option, value, description)->type_name(type)->group(stateGroup);
   };
-  command
-      .add_flag("--set-appearance-by-material", options.state.setsAppearanceByMaterial,
-                "Tick \"Set Appearance by Material\"")
-      ->group(stateGroup);
+  auto* byMaterial = command
+                         .add_flag("--set-appearance-by-material", options.state.setsAppearanceByMaterial,
+                                   "Tick \"Set Appearance by Material\"")
+                         ->group(stateGroup);
   add("--close", options.closedWords, "Close a group: appearance or material", "GROUP")
       ->check(CLI::IsMember({"appearance", "material"}));
-  add("--appearance-filter", options.state.appearanceFilter, "Type this into the filter of the appearances", "TEXT");
-  add("--appearance", options.state.appearance, "Choose this appearance", "NAME");
+  // The box puts the list and its filter out of reach.
+  add("--appearance-filter", options.state.appearanceFilter, "Type this into the filter of the appearances", "TEXT")
+      ->excludes(byMaterial);
+  add("--appearance", options.state.appearance, "Choose this appearance", "NAME")->excludes(byMaterial);
   add("--material-filter", options.state.materialFilter, "Type this into the filter of the materials", "TEXT");
   add("--material", options.state.material, "Choose this material", "NAME");
 }

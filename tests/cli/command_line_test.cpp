@@ -118,6 +118,22 @@ const std::vector<Misuse> misuses = {
     {"TracingUnderNoName", {"dialog", "RIG", "--trace", ""}, "--trace: The name is empty"},
     {"AddInWithoutName", {"dialog", "RIG", "--addin", ""}, "--addin: The name is empty"},
     {"UnknownGroup", {"dialog", "RIG", "--close", "select"}, "select"},
+    {"TypingIntoAClosedGroup",
+     {"dialog", "RIG", "--close", "appearance", "--appearance-filter", "x"},
+     "--close appearance goes with none of --appearance-filter, --appearance and --open-list appearance: what is in a "
+     "closed group is out of reach"},
+    {"ChoosingInAClosedGroup",
+     {"dialog", "RIG", "--close", "appearance", "material", "--material", "Lead"},
+     "--close material goes with none of --material-filter, --material"},
+    {"OpeningAListInAClosedGroup",
+     {"dialog", "RIG", "--close", "material", "--picture", "x.svg", "--open-list", "material"},
+     "--close material goes with none of"},
+    {"ChoosingAnAppearanceThatTheMaterialSets",
+     {"dialog", "RIG", "--set-appearance-by-material", "--appearance", "RAL 3000 Flame red"},
+     "--set-appearance-by-material excludes --appearance\n"},
+    {"TypingForAnAppearanceThatTheMaterialSets",
+     {"dialog", "RIG", "--set-appearance-by-material", "--appearance-filter", "x"},
+     "--set-appearance-by-material excludes --appearance-filter\n"},
     {"OpenListWithoutPicture", {"dialog", "RIG", "--open-list", "material"}, "requires --picture"},
 };
 

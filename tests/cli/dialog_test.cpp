@@ -94,8 +94,13 @@ TEST_F(CliTest, DialogIsFilledInAsAskedFor) {
 }
 
 TEST_F(CliTest, AnItemThatTheFilterHidesCannotBeChosen) {
-  EXPECT_THAT(fail(1, {"dialog", rig(), "--appearance-filter", "ral 50", "--appearance", "RAL 3003 Ruby red"}),
-              HasSubstr("the library RAL_COLORS has no appearance \"RAL 3003 Ruby red\""));
+  EXPECT_THAT(
+      fail(1, {"dialog", rig(), "--appearance-filter", "ral 50", "--appearance", "RAL 3003 Ruby red"}),
+      HasSubstr(": under the filter \"ral 50\" the library RAL_COLORS has no appearance \"RAL 3003 Ruby red\"; "));
+  EXPECT_THAT(
+      fail(1, {"dialog", rig(), "--material-filter", "zzz", "--material", "Lead"}),
+      HasSubstr(": under the filter \"zzz\" the library Engineering materials has no material \"Lead\"; the list "
+                "is empty\n"));
 }
 
 TEST_F(CliTest, DialogIsDrawnWithTheColoursOfTheLibrary) {
