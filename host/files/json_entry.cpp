@@ -30,11 +30,15 @@ std::string placeOf(std::string_view text, std::size_t byte) {
 
 std::string readText(const std::filesystem::path& file, const std::string& folderAdvice) {
   const std::string fileName = file.u8string();
-  std::error_code unknown;
-  if (!std::filesystem::exists(file, unknown)) {
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) {
+    if (error) {
+      throw FormatError(fileName, "", "cannot be looked for (" + error.message() + ")",
+                        "check the path and that you may enter its folder");
+    }
     throw FormatError(fileName, "", "does not exist", "check the path");
   }
-  if (!std::filesystem::is_regular_file(file, unknown)) {
+  if (!std::filesystem::is_regular_file(file, error)) {
     throw FormatError(fileName, "", "is not a file", folderAdvice);
   }
   std::ifstream stream(file, std::ios::binary);

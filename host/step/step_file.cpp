@@ -33,6 +33,10 @@ void failReading(const fs::path& file, const std::string& why, const std::string
 void checkStepFile(const fs::path& file) {
   std::error_code error;
   if (!fs::exists(file, error)) {
+    if (error) {
+      failReading(file, "it cannot be looked for (" + error.message() + ")",
+                  "Check the name and that you may enter its folder.");
+    }
     failReading(file, "there is no such file", "Check the name and the folder.");
   }
   if (!fs::is_regular_file(file, error)) {

@@ -57,6 +57,16 @@ class IgnoredSignal {
   void (*before)(int) = std::signal(signal, SIG_IGN);
 };
 
+// A chain of links without end stands for every name that the system does not follow to its end, as in a folder that
+// may not be entered, which the administrator's tests cannot have.
+TEST_F(NativeCliTest, AFileThatCannotBeLookedForIsNotSaidToBeMissing) {
+  for (const char* name : {"loop.step", "loop.design.json"}) {
+    std::filesystem::create_symlink(name, at(name));
+    EXPECT_THAT(fail(1, {"tree", at(name)}), AllOf(HasSubstr(at(name)), HasSubstr(" cannot be looked for ("),
+                                                   HasSubstr("you may enter its folder")));
+  }
+}
+
 class WithoutOutput : public NativeCliTest, public WithRow<std::vector<std::string>> {};
 
 TABLE(Commands, WithoutOutput, [](const auto& row) { return row.front().substr(row.front().find_first_not_of('-')); },
