@@ -65,7 +65,8 @@ std::vector<NamedOutput> checkNames(const fs::path& input, const std::vector<Nam
 
 void checkDestinations(const fs::path& input, const std::vector<NamedOutput>& outputs) {
   for (const NamedOutput& output : checkNames(input, outputs)) {
-    files::checkDestination(output.file);
+    // The only sure way to learn whether the folder can be written.
+    const files::AtomicFile rehearsal(output.file);
   }
 }
 

@@ -15,8 +15,10 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 TEST_F(NativeCliTest, InATerminalTheQuestionIsPutToTheUser) {
   const Outcome outcome = runInTerminal(
@@ -65,6 +67,25 @@ TEST_F(NativeCliTest, AFileThatCannotBeLookedForIsNotSaidToBeMissing) {
     EXPECT_THAT(fail(1, {"tree", at(name)}), AllOf(HasSubstr(at(name)), HasSubstr(" cannot be looked for ("),
                                                    HasSubstr("you may enter its folder")));
   }
+}
+
+class FolderOutOfReach : public NativeCliTest, public WithRow<std::vector<std::string>> {};
+
+TABLE(Commands, FolderOutOfReach, byNumber,
+      {{"dialog", "--picture", "/proc/self/out.svg"},
+       {"apply", "--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--save",
+        "/proc/self/out.step"},
+       {"convert", "/proc/self/out.design.json"},
+       {"render", "--png", "/proc/self/out.png"}});
+
+// Nobody can make files there. Found before any work: nothing is reported as done, and not even the assembly is read.
+TABLE_TEST(FolderOutOfReach, IsToldAtOnce) {
+  std::vector<std::string> arguments = row();
+  arguments.insert(arguments.begin() + 1, rig());
+  const std::string said = fail(1, arguments);
+  EXPECT_THAT(said, StartsWith("tintora-host: Cannot write \"" + row().back() +
+                               "\": the folder \"/proc/self\" cannot be written ("));
+  EXPECT_THAT(said, HasSubstr("Choose another folder or change its permissions."));
 }
 
 class WithoutOutput : public NativeCliTest, public WithRow<std::vector<std::string>> {};
@@ -161,6 +182,24 @@ TEST_F(DemoOnAFullDisk, IsAFailureThatNamesTheAssemblyAsItWasAskedFor) {
   EXPECT_EQ(outcome.err, "tintora-host: Cannot write \"" + saved() +
                              "\": the disk refused the data. Free some space or choose another folder.\n");
   EXPECT_THAT(filesInFolder(), ElementsAre("addin", "rig.step"));
+}
+
+TEST_F(NativeCliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
+  WITH_STEP_FILE(file, "as1-tu-203.stp");
+  const std::string design = at("out.design.json");
+  std::vector<std::string> arguments = {"apply", file.string(), "--addin", copyAddIn(), "--keep-settings"};
+  arguments.insert(arguments.end(), {"--filter", "body", "--select", "plate:1/Body1"});
+  arguments.insert(arguments.end(), {"--appearance", "RAL 3000 Flame red", "--save", design, "--glb", at("out.glb")});
+  const auto runOnAFullDisk = [&] {
+    const FileSizeLimit limit(16384);
+    return run(arguments);
+  };
+  const Outcome outcome = runOnAFullDisk();
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("tintora-host: Cannot write \"" + at("out.glb") + "\": "));
+  EXPECT_THAT(outcome.out, EndsWith("Saved " + design + "\n"));
+  EXPECT_THAT(json(design), HasSubstr("RAL 3000 Flame red"));
+  EXPECT_THAT(filesInFolder(), ElementsAre("addin", "out.design.json", "rig.step"));
 }
 
 TEST_F(NativeCliTest, ADiskTooFullForACopyOfTheAddInIsAFailureThatTellsHowToDoWithoutOne) {

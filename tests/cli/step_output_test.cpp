@@ -24,18 +24,6 @@ TEST_F(NativeCliTest, SavedAlsoForViewers) {
   EXPECT_THAT(content("out.glb"), StartsWith("glTF"));
 }
 
-TEST_F(NativeCliTest, WhenTheSecondFileCannotBeWrittenTheFirstIsThereAsAWhole) {
-  // A folder in which nobody can make anything, which shows only when that is tried.
-  const std::string glb = "/proc/self/out.glb";
-  const Outcome outcome =
-      run(applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb", glb}));
-  EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.err, HasSubstr("Cannot write \"" + glb + "\""));
-  EXPECT_THAT(outcome.out, EndsWith("Saved " + saved() + "\n"));
-  EXPECT_EQ(nlohmann::json::parse(json(saved()))["bodies"][0]["own"]["colour"], "#A72920");
-  EXPECT_THAT(filesInFolder(), ElementsAre("out.step", "rig.step"));
-}
-
 TEST_F(NativeCliTest, WhenTheSecondFileIsAFolderNothingIsDone) {
   std::filesystem::create_directory(at("out.glb"));
   EXPECT_EQ(fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb",
