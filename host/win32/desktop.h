@@ -19,7 +19,7 @@ struct Cursor {
 Cursor cursor();
 
 /// Paths of the files that were opened, in a window of normal size, with the program that belongs to them. A file that
-/// is not there opens nothing.
+/// is not there opens nothing. Here and below, raises std::runtime_error when one of those programs does not end.
 std::vector<std::string> openedFiles();
 
 /// Arrow, count 0, nothing opened.

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 
 #include "host/win32/desktop.h"
@@ -17,26 +18,40 @@ const char* logOfOpenedFiles() {
   return std::getenv("TINTORA_OPEN_LOG");
 }
 
+/// Raises std::runtime_error when the process does not end, as what it would write down is missed otherwise.
 void waitForProcess(DWORD id) {
-  constexpr DWORD patience = 10'000;
+  // Far more than it takes, also on a busy machine.
+  constexpr DWORD patience = 300'000;
   if (const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, id)) {
-    WaitForSingleObject(process, patience);
+    const DWORD ended = WaitForSingleObject(process, patience);
     CloseHandle(process);
+    if (ended != WAIT_OBJECT_0) {
+      throw std::runtime_error("the viewer, process " + std::to_string(id) + ", has not ended within " +
+                               std::to_string(patience / 1000) + " s");
+    }
   }
 }
 
-/// Programs that the shell starts run on their own; what the viewer writes down is there when it has ended.
-void waitForViewers() {
+std::vector<DWORD> startedViewers() {
   constexpr const char* viewer = "tintora-viewer.exe";
+  std::vector<DWORD> ids;
   const HANDLE processes = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
   PROCESSENTRY32 process{};
   process.dwSize = sizeof process;
   for (BOOL found = Process32First(processes, &process); found != FALSE; found = Process32Next(processes, &process)) {
     if (process.th32ParentProcessID == GetCurrentProcessId() && viewer == std::string(process.szExeFile)) {
-      waitForProcess(process.th32ProcessID);
+      ids.push_back(process.th32ProcessID);
     }
   }
   CloseHandle(processes);
+  return ids;
+}
+
+/// Programs that the shell starts run on their own; what the viewer writes down is there when it has ended.
+void waitForViewers() {
+  for (const DWORD id : startedViewers()) {
+    waitForProcess(id);
+  }
 }
 
 }  // namespace
