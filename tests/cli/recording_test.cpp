@@ -41,6 +41,7 @@ TEST_F(RecordedRun, CallsAreCountedByName) {
   EXPECT_THAT(counts, HasSubstr(" 3  CommandInputs.addGroupCommandInput\n"));
 }
 
+// Only Windows keeps a file that is in use from being removed; elsewhere this tells that the copy is removed at all.
 TEST_F(RecordedRun, LeavesNoCopyOfTheAddInBehindThoughTheAddInIsInUse) {
   const headless::Module used(std::filesystem::u8path(copyAddIn()) / "Tintora.dll");
   succeed({"dialog", rig(), "--addin", at("addin"), "--trace", at("calls.txt")});
