@@ -5,7 +5,6 @@
 #include <StepRepr_MakeFromUsageOption.hxx>
 #include <StepRepr_MeasureRepresentationItem.hxx>
 #include <StepRepr_ProductDefinitionShape.hxx>
-#include <StepRepr_PropertyDefinition.hxx>
 #include <StepRepr_PropertyDefinitionRepresentation.hxx>
 #include <StepRepr_Representation.hxx>
 #include <StepRepr_ShapeAspect.hxx>
@@ -85,7 +84,7 @@ class SessionMaterials {
  private:
   void describeProperties() {
     forEachEntity<StepRepr_PropertyDefinition>(session, [&](const Handle(StepRepr_PropertyDefinition) & property) {
-      if (lowerCase(textOf(property->Name())) != "material property") {
+      if (!isMaterialProperty(*property)) {
         return;
       }
       Description& description = descriptions[property->Definition().Value()];
@@ -185,6 +184,10 @@ class SessionMaterials {
 };
 
 }  // namespace
+
+bool isMaterialProperty(const StepRepr_PropertyDefinition& property) {
+  return lowerCase(textOf(property.Name())) == "material property";
+}
 
 void readMaterials(const TranslatedFile& file, const MaterialLookup& lookup, BuiltDesign& built) {
   Materials materials(lookup);

@@ -75,6 +75,7 @@ ReportingBuffer::int_type ReportingBuffer::underflow() {
   }
   consumed += static_cast<double>(count);
   phase.reached(consumed / size);
+  numberCheck.take({block.data(), static_cast<std::size_t>(count)});
   setg(block.data(), block.data(), block.data() + count);
   return traits_type::to_int_type(*gptr());
 }

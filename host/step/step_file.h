@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "host/step/number_check.h"
 #include "host/step/progress.h"
 
 namespace headless::step {
@@ -17,10 +18,13 @@ namespace headless::step {
 /// Raises Error when the file is missing, no file, unreadable, empty, no STEP file, or ends early.
 void checkStepFile(const std::filesystem::path& file);
 
-/// Reads a file for a stream and tells a phase how far that went.
+/// Reads a file for a stream, tells a phase how far that went, and looks at the numbers.
 class ReportingBuffer : public std::streambuf {
  public:
   ReportingBuffer(const std::filesystem::path& file, Phase& shownPhase);
+
+  /// Of what was read so far.
+  const NumberCheck& numbers() const { return numberCheck; }
 
  protected:
   int_type underflow() override;
@@ -31,6 +35,7 @@ class ReportingBuffer : public std::streambuf {
   double size;
   double consumed = 0;
   Phase& phase;
+  NumberCheck numberCheck;
 };
 
 }  // namespace headless::step

@@ -11,6 +11,7 @@
 #include <istream>
 #include <string>
 
+#include "host/step/entity_check.h"
 #include "host/step/step_file.h"
 #include "host/step/structure_check.h"
 
@@ -55,6 +56,10 @@ void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, cons
   if (!isLoaded || !defect.empty()) {
     failReading(path, "the file is damaged (" + defect + ")", "Copy or export it again.");
   }
+  if (const std::string& damage = buffer.numbers().firstDamage(); !damage.empty()) {
+    failReading(path, "the file is damaged at " + damage, "Copy or export it again.");
+  }
+  checkEntities(path, reader.Reader().WS());
   checkStructure(path, reader.Reader().WS());
   phase.finish();
 }

@@ -23,17 +23,25 @@ std::string EditedFile::find(const std::string& pattern, std::size_t occurrence)
 }
 
 void EditedFile::replace(const std::string& pattern, const std::string& by) {
-  const std::regex expression(pattern);
-  if (!std::regex_search(content, expression)) {
-    throw std::out_of_range("the file has nothing like " + pattern);
-  }
-  content = std::regex_replace(content, expression, by);
+  edit(pattern, by, std::regex_constants::match_default);
+}
+
+void EditedFile::replaceFirst(const std::string& pattern, const std::string& by) {
+  edit(pattern, by, std::regex_constants::format_first_only);
 }
 
 std::string EditedFile::add(const std::string& entity) {
   const std::string number = "#" + std::to_string(nextNumber++);
   content.insert(content.rfind("ENDSEC;"), number + " = " + entity + ";\n");
   return number;
+}
+
+void EditedFile::edit(const std::string& pattern, const std::string& by, std::regex_constants::match_flag_type flags) {
+  const std::regex expression(pattern);
+  if (!std::regex_search(content, expression)) {
+    throw std::out_of_range("the file has nothing like " + pattern);
+  }
+  content = std::regex_replace(content, expression, by, flags);
 }
 
 void EditedFile::save(const std::filesystem::path& file) const {

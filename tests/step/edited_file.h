@@ -20,12 +20,17 @@ class EditedFile {
   /// Replaces every match.
   void replace(const std::string& pattern, const std::string& by);
 
+  /// Replaces the first match.
+  void replaceFirst(const std::string& pattern, const std::string& by);
+
   /// Adds an entity and returns its number, like "#123".
   std::string add(const std::string& entity);
 
   void save(const std::filesystem::path& file) const;
 
  private:
+  void edit(const std::string& pattern, const std::string& by, std::regex_constants::match_flag_type flags);
+
   std::string content;
   int nextNumber = 900000;
 };
