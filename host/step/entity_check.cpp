@@ -18,7 +18,9 @@
 #include <StepRepr_RepresentationMap.hxx>
 #include <StepRepr_RepresentationRelationship.hxx>
 #include <StepRepr_ShapeRepresentationRelationship.hxx>
+#include <StepShape_ConnectedFaceSet.hxx>
 #include <StepShape_ContextDependentShapeRepresentation.hxx>
+#include <StepShape_Face.hxx>
 #include <StepShape_ShapeDefinitionRepresentation.hxx>
 #include <StepShape_ShapeRepresentation.hxx>
 #include <StepShape_ShellBasedSurfaceModel.hxx>
@@ -34,6 +36,9 @@
 #include <StepVisual_SurfaceSideStyle.hxx>
 #include <StepVisual_SurfaceStyleRenderingWithProperties.hxx>
 #include <StepVisual_SurfaceStyleTransparent.hxx>
+#include <Transfer_Binder.hxx>
+#include <Transfer_TransientProcess.hxx>
+#include <XSControl_TransferReader.hxx>
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -169,6 +174,10 @@ bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
+std::string withoutIndent(const std::string& text) {
+  return text.substr(std::min(text.size(), text.find_first_not_of(' ')));
+}
+
 /// The first thing that is wrong with the values of an entity, in the kernel's words; empty when nothing is that
 /// counts.
 std::string failureOf(const Entity& entity, const Interface_Check& check, const Uses& uses) {
@@ -180,7 +189,7 @@ std::string failureOf(const Entity& entity, const Interface_Check& check, const 
     const bool isToldElsewhere =
         contains(text, "has illegal type") && uses.countUsed<StepData_UndefinedEntity>(entity) > 0;
     if (!isAboutText && !isToldElsewhere) {
-      return text.substr(std::min(text.size(), text.find_first_not_of(' ')));
+      return withoutIndent(text);
     }
   }
   return {};
@@ -192,6 +201,10 @@ std::string defectOf(const StepData_StepModel& entities, int number, const Uses&
   return type.empty() ? failureOf(entity, *entities.Check(number, true), uses) : "unknown type " + type;
 }
 
+std::string labelOf(const StepData_StepModel& entities, int number) {
+  return "#" + std::to_string(entities.IdentLabel(entities.Value(number)));
+}
+
 }  // namespace
 
 void checkEntities(const std::filesystem::path& file, const Handle(XSControl_WorkSession) & session) {
@@ -200,8 +213,27 @@ void checkEntities(const std::filesystem::path& file, const Handle(XSControl_Wor
   for (int number = 1; number <= entities->NbEntities(); ++number) {
     const std::string defect = defectOf(*entities, number, uses);
     if (!defect.empty() && uses.isRead(entities->Value(number))) {
-      const std::string label = "#" + std::to_string(entities->IdentLabel(entities->Value(number)));
-      failReading(file, "the file is damaged at " + label + " (" + defect + ")", "Copy or export it again.");
+      failReading(file, "the file is damaged at " + labelOf(*entities, number) + " (" + defect + ")",
+                  "Copy or export it again.");
+    }
+  }
+}
+
+void checkTranslation(const std::filesystem::path& file, const Handle(XSControl_WorkSession) & session) {
+  const auto entities = Handle(StepData_StepModel)::DownCast(session->Model());
+  const Handle(Transfer_TransientProcess)& process = session->TransferReader()->TransientProcess();
+  for (int number = 1; number <= entities->NbEntities(); ++number) {
+    const Entity& entity = entities->Value(number);
+    if (!isAnyOf<StepShape_SolidModel, StepShape_ShellBasedSurfaceModel, StepShape_ConnectedFaceSet, StepShape_Face>(
+            *entity)) {
+      continue;
+    }
+    const Handle(Transfer_Binder) binder = process->Find(entity);
+    if (!binder.IsNull() && !binder->HasResult()) {
+      const Handle(Interface_Check) check = binder->Check();
+      const std::string why = check->HasFailed() ? " (" + withoutIndent(check->CFail(1)) + ")" : "";
+      failReading(file, "the geometry kernel makes no shape of " + labelOf(*entities, number) + why,
+                  "Export it again; if that does not help, leave out parts until it reads.");
     }
   }
 }

@@ -10,4 +10,8 @@ namespace headless::step {
 /// out. Others do no harm: many programs write annotations and the like that the kernel does not know.
 void checkEntities(const std::filesystem::path& file, const Handle(XSControl_WorkSession) & session);
 
+/// Raises Error for reading `file` when the kernel tried to make a shape of a body or face and could not: it leaves
+/// those out and goes on.
+void checkTranslation(const std::filesystem::path& file, const Handle(XSControl_WorkSession) & session);
+
 }  // namespace headless::step

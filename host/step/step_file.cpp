@@ -26,6 +26,12 @@ std::string partOf(std::ifstream& input, std::uintmax_t from, std::uintmax_t len
 
 }  // namespace
 
+bool isStepFile(const fs::path& file) {
+  std::error_code error;
+  std::ifstream input(file, std::ios::binary);
+  return fs::is_regular_file(file, error) && partOf(input, 0, blockSize).find(firstWords) != std::string::npos;
+}
+
 void failReading(const fs::path& file, const std::string& why, const std::string& help) {
   throw Error("Cannot read \"" + file.u8string() + "\": " + why + ". " + help);
 }
@@ -51,7 +57,7 @@ void checkStepFile(const fs::path& file) {
     failReading(file, "the file is empty", "Export it again.");
   }
   const std::uintmax_t length = std::min<std::uintmax_t>(size, blockSize);
-  if (partOf(input, 0, length).find(firstWords) == std::string::npos) {
+  if (!isStepFile(file)) {
     failReading(file, "this is not a STEP file, it does not begin with " + std::string(firstWords),
                 "Export the assembly as STEP AP203, AP214 or AP242; unpack it first when it is compressed.");
   }

@@ -15,6 +15,9 @@ namespace headless::step {
 /// Raises Error for reading `file`: "Cannot read "file": why. help".
 [[noreturn]] void failReading(const std::filesystem::path& file, const std::string& why, const std::string& help);
 
+/// True for a file that can be read and begins as STEP files do.
+bool isStepFile(const std::filesystem::path& file);
+
 /// Raises Error when the file is missing, no file, unreadable, empty, no STEP file, or ends early.
 void checkStepFile(const std::filesystem::path& file);
 

@@ -4,11 +4,13 @@
 #include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
 #include <STEPCAFControl_ExternFile.hxx>
+#include <STEPConstruct_ExternRefs.hxx>
 #include <StepData_StepModel.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
 #include <algorithm>
 #include <istream>
+#include <set>
 #include <string>
 
 #include "host/step/entity_check.h"
@@ -64,6 +66,22 @@ void load(STEPCAFControl_Reader& reader, const std::filesystem::path& path, cons
   phase.finish();
 }
 
+/// The kernel reads the files that a file refers to while it translates, so they are looked at before. Only once each:
+/// files may refer to each other. What is missing or no STEP file is left to the kernel.
+void checkReferredFiles(const std::filesystem::path& path, const Handle(XSControl_WorkSession) & session,
+                        const KernelSession& kernel, std::set<std::filesystem::path>& checked) {
+  STEPConstruct_ExternRefs references(session);
+  references.LoadExternRefs();
+  for (int i = 1; i <= references.NbExternRefs(); ++i) {
+    const auto file = path.parent_path() / std::filesystem::u8path(references.FileName(i));
+    if (checked.insert(file).second && isStepFile(file)) {
+      STEPCAFControl_Reader reader;
+      load(reader, file, kernel, {});
+      checkReferredFiles(file, reader.Reader().WS(), kernel, checked);
+    }
+  }
+}
+
 bool translate(STEPCAFControl_Reader& reader, Handle(TDocStd_Document) & document, const Progress& progress) {
   Phase phase(progress, "translating");
   const Handle(KernelProgress) shown = new KernelProgress(phase);
@@ -83,8 +101,11 @@ bool hasFaces(const TDF_LabelSequence& products) {
 TranslatedFile::TranslatedFile(const std::filesystem::path& path, const KernelSession& kernel,
                                const Progress& progress) {
   load(reader, path, kernel, progress);
+  std::set<std::filesystem::path> checked{path};
+  checkReferredFiles(path, reader.Reader().WS(), kernel, checked);
   const bool done = translate(reader, document.handle, progress);
   document.shapes()->GetFreeShapes(rootLabels);
+  checkTranslation(path, reader.Reader().WS());
   allSessions.push_back(reader.Reader().WS());
   using FilesIterator = NCollection_DataMap<TCollection_AsciiString, Handle(STEPCAFControl_ExternFile)>::Iterator;
   for (FilesIterator file(reader.ExternFiles()); file.More(); file.Next()) {
@@ -92,6 +113,7 @@ TranslatedFile::TranslatedFile(const std::filesystem::path& path, const KernelSe
       failReading(path, "it refers to the file \"" + std::string(file.Key().ToCString()) + "\", which cannot be read",
                   "Put that file beside it.");
     }
+    checkTranslation(path.parent_path() / std::filesystem::u8path(file.Key().ToCString()), file.Value()->GetWS());
     allSessions.push_back(file.Value()->GetWS());
   }
   if (!done || !hasFaces(rootLabels)) {

@@ -10,6 +10,7 @@
 #include "host/step/reader.h"
 #include "host/step/writer.h"
 #include "tests/step/edited_file.h"
+#include "tests/step/foreign_files.h"
 #include "tests/step/made_designs.h"
 #include "tests/support/tables.h"
 
@@ -94,6 +95,47 @@ TABLE_TEST(DamagedEntities, AreNamedWithTheFileAndWhatHelps) {
   EXPECT_NE(message.find("the file is damaged at " + number + " ("), std::string::npos) << number << ": " << message;
   EXPECT_NE(message.find(row().reason), std::string::npos) << message;
   EXPECT_NE(message.find("Copy or export it again."), std::string::npos) << message;
+}
+
+TEST_F(EditedDesign, IsNotReadWithoutAFace) {
+  EditedFile edited = soundFile();
+  const std::string face = edited.find("(#\\d+) = ADVANCED_FACE");
+  edited.replaceFirst("= PLANE\\('',(#\\d+)", "= SPHERICAL_SURFACE('',$1,-1.");
+  const std::string message = outcomeOf(edited);
+  EXPECT_NE(message.find("no shape of " + face), std::string::npos) << message;
+  EXPECT_NE(message.find("Export it again"), std::string::npos) << message;
+}
+
+TEST_F(EditedDesign, IsNotReadWithoutABody) {
+  EditedFile edited = soundFile();
+  const std::string solid = edited.find("(#\\d+) = MANIFOLD_SOLID_BREP");
+  // An edge with a negative weight, over which the kernel gives up the whole body.
+  edited.replaceFirst("= LINE\\('',(#\\d+),#\\d+\\)",
+                      "= ( BOUNDED_CURVE() B_SPLINE_CURVE(1,($1,$1),.UNSPECIFIED.,.F.,.F.) "
+                      "B_SPLINE_CURVE_WITH_KNOTS((2,2),(0.,1.),.UNSPECIFIED.) CURVE() GEOMETRIC_REPRESENTATION_ITEM() "
+                      "RATIONAL_B_SPLINE_CURVE((1.,-1.)) REPRESENTATION_ITEM('') )");
+  const std::string message = outcomeOf(edited);
+  EXPECT_NE(message.find("no shape of " + solid + " ("), std::string::npos) << message;
+}
+
+TEST(ReferredFiles, AreCheckedBeforeTheyAreTranslated) {
+  const TemporaryFolder folder;
+  ForeignFile foreign;
+  const auto root = foreign.addAssembly("Root");
+  foreign.place(root, foreign.addPart("Part", box(10)), 20);
+  foreign.writeSplit(folder / "whole.stp");
+  EditedFile part(folder / "Part.stp");
+  const std::string number = part.find("(#\\d+) = CARTESIAN_POINT");
+  part.replaceFirst("= CARTESIAN_POINT", "= CARTESIAN_PIONT");
+  part.save(folder / "Part.stp");
+  try {
+    read(folder / "whole.stp");
+    FAIL() << "was read";
+  } catch (const Error& error) {
+    const std::string message = error.what();
+    EXPECT_EQ(message.rfind("Cannot read \"" + (folder / "Part.stp").u8string() + "\"", 0), 0u) << message;
+    EXPECT_NE(message.find("damaged at " + number + " (unknown type CARTESIAN_PIONT)"), std::string::npos) << message;
+  }
 }
 
 struct Extra {
