@@ -24,6 +24,19 @@ TEST_F(NativeCliTest, SavedAlsoForViewers) {
   EXPECT_THAT(content("out.glb"), StartsWith("glTF"));
 }
 
+TEST_F(NativeCliTest, ADamagedAssemblyIsNeitherReadNorSavedAsIfItWereWhole) {
+  std::string text = content("rig.step");
+  const std::string word = "CLOSED_SHELL";
+  text.replace(text.find(word), word.size(), "CLOSED_SHEL");
+  fill("rig.step", text);
+  const auto isTold = AllOf(HasSubstr("tintora-host: Cannot read \"" + rig() + "\": the file is damaged at #"),
+                            HasSubstr("(unknown type CLOSED_SHEL)"), HasSubstr("Copy or export it again."));
+  EXPECT_THAT(fail(1, {"tree", rig()}), isTold);
+  EXPECT_THAT(fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red"})),
+              isTold);
+  EXPECT_FALSE(std::filesystem::exists(saved()));
+}
+
 TEST_F(NativeCliTest, WhenTheSecondFileIsAFolderNothingIsDone) {
   std::filesystem::create_directory(at("out.glb"));
   EXPECT_EQ(fail(1, applying({"--filter", "body", "--select", "Base", "--appearance", "RAL 3000 Flame red", "--glb",
