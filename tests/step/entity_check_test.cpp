@@ -97,6 +97,15 @@ TABLE_TEST(DamagedEntities, AreNamedWithTheFileAndWhatHelps) {
   EXPECT_NE(message.find("Copy or export it again."), std::string::npos) << message;
 }
 
+TEST_F(EditedDesign, IsNotReadWithoutAColourThoughNoListHoldsItsStyle) {
+  EditedFile edited = soundFile();
+  edited.replace("MECHANICAL_DESIGN_GEOMETRIC_PRESENTATION_REPRESENTATION", "REPRESENTATION");
+  const std::string number = edited.find("(#\\d+) = COLOUR_RGB");
+  edited.replaceFirst("= COLOUR_RGB", "= COLOR_RGB");
+  const std::string message = outcomeOf(edited);
+  EXPECT_NE(message.find("damaged at " + number + " (unknown type COLOR_RGB)"), std::string::npos) << message;
+}
+
 TEST_F(EditedDesign, IsNotReadWithoutAFace) {
   EditedFile edited = soundFile();
   const std::string face = edited.find("(#\\d+) = ADVANCED_FACE");
