@@ -66,6 +66,11 @@ void savePictures(Sitting& sitting, const DialogOptions& options) {
   }
 }
 
+std::string outOfReach(const std::string& group) {
+  return "--close " + group + " goes with none of --" + group + "-filter, --" + group + " and --open-list " + group +
+         ": what is in a closed group is out of reach";
+}
+
 /// Raises UsageError when something is to be done in a group that is to be closed.
 void requireOpenGroups(const DialogOptions& options) {
   const DialogState& state = options.state;
@@ -74,8 +79,7 @@ void requireOpenGroups(const DialogOptions& options) {
     const std::string& filter = isAppearance ? state.appearanceFilter : state.materialFilter;
     const std::string& item = isAppearance ? state.appearance : state.material;
     if (!filter.empty() || !item.empty() || options.openWord == word) {
-      throw UsageError("--close " + word + " goes with none of --" + word + "-filter, --" + word + " and --open-list " +
-                       word + ": what is in a closed group is out of reach");
+      throw UsageError(outOfReach(word));
     }
   }
 }
