@@ -26,9 +26,26 @@ fs::path withoutLinks(fs::path file) {
   return file;
 }
 
+/// The file to replace, or to make where there is none yet.
 fs::path checkedTarget(const fs::path& destination) {
-  checkDestination(destination);
-  return withoutLinks(destination);
+  std::error_code error;
+  const fs::file_status status = fs::status(destination, error);
+  if (!destination.has_filename() || fs::is_directory(status)) {
+    failToWrite(destination, "that is a folder", "Give a file name.");
+  }
+  if (!fs::status_known(status)) {
+    failToWrite(destination, error.message(), "Choose another file.");
+  }
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    failToWrite(destination, "that is a device, a pipe or a socket", "Give the name of a file.");
+  }
+  fs::path target = withoutLinks(destination);
+  const fs::path folder = folderOf(target);
+  if (!fs::is_directory(folder, error)) {
+    failToWrite(destination, "the folder \"" + folder.u8string() + "\" does not exist",
+                "Create it or choose another folder.");
+  }
+  return target;
 }
 
 /// Beside the file, named without it: the name of the file may already be as long as the file system allows.
@@ -46,24 +63,6 @@ ScratchFolder scratchFolderBeside(const fs::path& file) {
 
 void failToWrite(const fs::path& file, const std::string& why, const std::string& help) {
   throw Error("Cannot write \"" + file.u8string() + "\": " + why + ". " + help);
-}
-
-void checkDestination(const fs::path& file) {
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  if (!file.has_filename() || fs::is_directory(status)) {
-    failToWrite(file, "that is a folder", "Give a file name.");
-  }
-  if (!fs::status_known(status)) {
-    failToWrite(file, error.message(), "Choose another file.");
-  }
-  if (fs::exists(status) && !fs::is_regular_file(status)) {
-    failToWrite(file, "that is a device, a pipe or a socket", "Give the name of a file.");
-  }
-  const fs::path folder = folderOf(withoutLinks(file));
-  if (!fs::is_directory(folder, error)) {
-    failToWrite(file, "the folder \"" + folder.u8string() + "\" does not exist", "Create it or choose another folder.");
-  }
 }
 
 AtomicFile::AtomicFile(const fs::path& destination)

@@ -11,16 +11,13 @@ namespace headless::files {
 /// Raises Error: what cannot be written, why, and what would help.
 [[noreturn]] void failToWrite(const std::filesystem::path& file, const std::string& why, const std::string& help);
 
-/// Raises Error when the file's folder does not exist, or when there is something of that name that is no file but a
-/// folder, a device or a pipe: to be asked before the work that fills the file.
-void checkDestination(const std::filesystem::path& file);
-
 /// A file under construction, in a temporary folder beside its destination so that it can be moved into place in one
 /// step. Until then an earlier file of that name stays as it is; without commit() nothing remains. A link stays, and
 /// the file that it stands for is written; a file that is replaced hands on its permissions.
 class AtomicFile {
  public:
-  /// Raises Error when the destination cannot be there (see checkDestination()) or its folder cannot be written.
+  /// Raises Error when the destination's folder does not exist or cannot be written, or when there is something of that
+  /// name that is no file but a folder, a device or a pipe.
   explicit AtomicFile(const std::filesystem::path& destination);
 
   /// Where to write; same file name as the destination.
